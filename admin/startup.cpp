@@ -1,0 +1,170 @@
+#include "startup.h"
+
+#include "admin.h"
+#include "dialect.h"
+#include "globals.h"
+#include "prompter.h"
+#include "utility.h"
+#include "zrtranslator.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QScreen>
+#include <QSettings>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QStyleFactory>
+#include <memory>
+
+namespace {
+QWidget *theMainWindow = nullptr;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Startup", text);
+}
+
+void preparePersonalFolder()
+{
+    QDir home(qEnvironmentVariable("HOME"));
+    if (home.exists()) {
+        home.mkdir(".Zephron");
+        home.mkdir(".Zephron/Quorel");
+    }
+}
+
+void applyStyle(QApplication &app)
+{
+    if (settings->value("/Reception/GUIStyle").toString() != QLatin1String("Default")) {
+        if (QStyle *style = QStyleFactory::create(settings->value("/Reception/GUIStyle").toString()))
+            app.setStyle(style);
+    }
+}
+
+QWidget *showSplash(QApplication &app, const QString &installDir)
+{
+    auto *splash = new QWidget(nullptr, Qt::CustomizeWindowHint | Qt::FramelessWindowHint | Qt::Tool);
+    splash->setObjectName("Quorel");
+    const QPixmap picture(installDir + "/share/Quorel/splash.png");
+    splash->setFixedSize(picture.size());
+    const QRect desk = QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->geometry() : QRect();
+    splash->move((desk.left() + desk.right()) / 2 - (splash->width() - 1) / 2,
+                 (desk.top() + desk.bottom()) / 2 - (splash->height() - 1) / 2);
+    QPalette palette = splash->palette();
+    palette.setBrush(QPalette::Window, QBrush(picture));
+    splash->setPalette(palette);
+    splash->setAutoFillBackground(true);
+    splash->show();
+    app.processEvents();
+    return splash;
+}
+
+void installTranslator(QApplication &app, const QString &file)
+{
+    auto *translator = new ZrTranslator(nullptr, nullptr);
+    translator->setParent(&app); // lives until the end of the program
+    (void)translator->load(file);
+    app.installTranslator(translator);
+}
+
+QString driverSetting()
+{
+    return settings->value("/Global/DBDriver", "QMYSQL3").toString();
+}
+
+// Steps 9 to 11: the default connection, opened. False: the failure has been shown.
+bool openDatabase()
+{
+    QSqlDatabase db = QSqlDatabase::addDatabase(Dialect::qtDriverName(driverSetting()));
+    if (!db.isValid()) {
+        Prompter::critical(nullptr, tr("Quorel"), tr("Could not load the database driver %1").arg(driverSetting()));
+        return false;
+    }
+    db.setConnectOptions(Dialect::connectOptions(db.driverName()));
+    db.setHostName(settings->value("/Global/DBServer", "localhost").toString());
+    db.setDatabaseName(settings->value("/Global/DBName", "Quorel").toString());
+    db.setUserName(settings->value("/Global/DBUser", "Quorel").toString());
+    db.setPassword(settings->value("/Global/DBPassword", "vmo").toString());
+    bool ok = false;
+    const int port = settings->value("/Global/DBPort", 0).toInt(&ok);
+    if (ok)
+        db.setPort(port);
+    if (!db.open()) {
+        Prompter::critical(nullptr, "Quorel Open Database",
+                           "Driver: " + driverSetting() + "\n" + db.lastError().driverText() + " "
+                               + db.lastError().databaseText());
+        return false;
+    }
+    Dialect::prepareSession(db);
+    return true;
+}
+
+void dropConnection()
+{
+    const QString name = QLatin1String(QSqlDatabase::defaultConnection);
+    { QSqlDatabase::database(name, false).close(); }
+    QSqlDatabase::removeDatabase(name);
+}
+
+// Step 13: only "admin" gets in; anyone else is asked again. False: cancelled.
+bool login()
+{
+    for (;;) {
+        const int result = utils->validateLoginId();
+        if (result == 2)
+            return false;
+        if (result == 0 && utils->getLogin() == QLatin1String("admin"))
+            return true;
+    }
+}
+} // namespace
+
+namespace Startup {
+
+QWidget *mainWindow()
+{
+    return theMainWindow;
+}
+
+int run(QApplication &app)
+{
+    preparePersonalFolder();
+    settings = new QSettings("Zephron", "Quorel");
+    const QString installDir = settings->value("/Global/InstallDir", "/opt/zephron").toString();
+    app.addLibraryPath(installDir + "/lib");
+    applyStyle(app);
+    std::unique_ptr<QWidget> splash(showSplash(app, installDir));
+    const QString lang = settings->value("/Personal/Lang", "").toString();
+    installTranslator(app, installDir + "/i18n/Quorel/qrlib." + lang + ".qm");
+    installTranslator(app, installDir + "/i18n/Quorel/admin." + lang + ".qm");
+
+    if (!openDatabase()) {
+        app.quit();
+        return -1;
+    }
+    utils = new Utility("Admin");
+    if (!utils->initClass(false)) {
+        dropConnection();
+        return -1;
+    }
+    if (!login()) {
+        delete utils;
+        utils = nullptr;
+        return -1;
+    }
+    auto *admin = new Admin(nullptr, "admin", Qt::Window);
+    theMainWindow = admin;
+    admin->setWindowTitle("Quorel - Admin");
+    admin->show();
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 9000);
+    splash.reset();
+    app.exec();
+    theMainWindow = nullptr;
+    delete admin;
+    delete settings;
+    settings = nullptr;
+    return 0;
+}
+
+} // namespace Startup

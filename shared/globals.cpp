@@ -1,0 +1,4 @@
+#include "globals.h"
+
+QSettings *settings = nullptr;
+Utility *utils = nullptr;

@@ -1,0 +1,249 @@
+#include "utility.h"
+
+#include "logindialog.h"
+#include "prompter.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlRecord>
+#include <QTextBrowser>
+#include <QVariant>
+#include <cmath>
+
+namespace {
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Utility", text);
+}
+
+bool connectionIsMySql()
+{
+    return QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)
+        .driverName().startsWith(QLatin1String("QMYSQL"));
+}
+
+// The help window is not modal: the administrator reads it beside the main window.
+QTextBrowser *helpWindow = nullptr;
+} // namespace
+
+Utility::Utility(const QString &applicationName)
+    : appName(applicationName)
+{
+}
+
+Utility::~Utility()
+{
+    delete helpWindow;
+    helpWindow = nullptr;
+}
+
+const QStringList &Utility::categories()
+{
+    static const QStringList names{"Goods", "Hospital", "Consult", "Diagnosis", "Injection",
+                                   "Lab", "Medication", "Proc", "Vaccination"};
+    return names;
+}
+
+bool Utility::initClass(bool reload)
+{
+    QSqlQuery query;
+    if (!query.exec("SELECT ALINE1, Tax1Name, Tax1, Tax2Name, Tax2 FROM SysInfo")) {
+        Prompter::critical(nullptr, tr("Quorel"),
+                           tr("The practice information could not be read from the table SysInfo:\n%1")
+                               .arg(query.lastError().text()));
+        return false;
+    }
+    if (!query.next()) {
+        Prompter::critical(nullptr, tr("Quorel"),
+                           tr("The table SysInfo holds no practice information. "
+                              "Create its row before starting the program."));
+        return false;
+    }
+    practice = query.value(0).toString();
+    tax1Name = query.value(1).toString();
+    tax1 = query.value(2).toDouble();
+    tax2Name = query.value(3).toString();
+    tax2 = query.value(4).toDouble();
+    loaded = true;
+    Q_UNUSED(reload); // a reload reads exactly what a first load reads
+    return true;
+}
+
+int Utility::validateLoginId()
+{
+    static bool lastFailed = false;
+    LoginDialog dialog;
+    if (lastFailed)
+        dialog.setMessage(tr("The login id or code is not correct. Try again."));
+    if (Prompter::current()->exec(&dialog) != QDialog::Accepted)
+        return 2;
+    QSqlQuery query;
+    query.prepare("SELECT Operator FROM Operators WHERE Operator = ? AND id = ?");
+    query.addBindValue(dialog.loginId());
+    query.addBindValue(dialog.code());
+    if (!query.exec()) {
+        showDBError(query);
+        lastFailed = true;
+        return 1;
+    }
+    lastFailed = !query.next();
+    if (lastFailed)
+        return 1;
+    login = dialog.loginId();
+    return 0;
+}
+
+bool Utility::showDBError(const QSqlQuery &query)
+{
+    const QSqlError error = query.lastError();
+    QString text = tr("The database reported an error.\n\nDriver: %1\nDatabase: %2")
+                       .arg(error.driverText(), error.databaseText());
+    if (!query.lastQuery().isEmpty())
+        text += tr("\n\nStatement:\n%1").arg(query.lastQuery());
+    Prompter::critical(QApplication::activeWindow(), tr("Quorel Database Error"), text);
+    return true;
+}
+
+QString Utility::escapeSQL(const QString &text, bool flag) const
+{
+    Q_UNUSED(flag); // both callers' uses want the literal made safe; there is one way to do it
+    QString out;
+    out.reserve(text.size() + 8);
+    const bool backslashes = connectionIsMySql();
+    for (const QChar c : text) {
+        if (c == QChar(0))
+            continue; // no engine keeps a NUL inside a text value; it is dropped everywhere alike
+        if (c == QLatin1Char('\''))
+            out += QLatin1String("''");
+        else if (backslashes && c == QLatin1Char('\\'))
+            out += QLatin1String("\\\\");
+        else
+            out += c;
+    }
+    return out;
+}
+
+QString Utility::numStr(double value, int decimals)
+{
+    if (std::isnan(value) || std::isinf(value))
+        return QString::number(value);
+    QString text = QString::number(value, 'f', qMax(0, decimals));
+    // A value that rounds to zero is shown without its sign.
+    if (text.startsWith(QLatin1Char('-')) && text.count(QLatin1Char('0')) + text.count(QLatin1Char('.')) == text.size() - 1)
+        text.remove(0, 1);
+    return text;
+}
+
+double Utility::strNum(const QString &text, bool *ok)
+{
+    QString t = text.trimmed();
+    t.remove(QLatin1Char(' '));
+    bool good = false;
+    double value = t.toDouble(&good);
+    if (!good && t.contains(QLatin1Char(','))) {
+        // "1,234.50": the comma only groups thousands.
+        QString grouped = t;
+        value = grouped.remove(QLatin1Char(',')).toDouble(&good);
+    }
+    if (!good)
+        value = 0.0;
+    if (ok)
+        *ok = good;
+    return value;
+}
+
+double Utility::calcTax(double amount, double rate)
+{
+    // Tax is levied in whole cents, half a cent away from zero.
+    return std::round(amount * rate * 100.0) / 100.0;
+}
+
+QString Utility::rot13(const QString &text)
+{
+    QString out = text;
+    for (QChar &c : out) {
+        const ushort u = c.unicode();
+        if (u >= 'a' && u <= 'z')
+            c = QChar(ushort('a' + (u - 'a' + 13) % 26));
+        else if (u >= 'A' && u <= 'Z')
+            c = QChar(ushort('A' + (u - 'A' + 13) % 26));
+    }
+    return out;
+}
+
+double Utility::getStockLevelFromTrace(const QString &code, const QString &table, bool *ok)
+{
+    if (!categories().contains(table)) {
+        if (ok)
+            *ok = false;
+        return 0.0;
+    }
+    // Received less dispensed: a pending invoice counts its lines once; any other invoice counts
+    // them once per journal entry "I" or "RF" of its number.
+    QSqlQuery query;
+    query.prepare("SELECT "
+                  "(SELECT COALESCE(SUM(Quantity),0) FROM StockTraceItem WHERE Category=? AND Code=?), "
+                  "(SELECT COALESCE(SUM(ii.Quantity * CASE WHEN inv.Status='P' THEN 1 ELSE "
+                  "(SELECT COUNT(*) FROM Journal j WHERE j.MyNumber=ii.InvoiceNumber "
+                  "AND j.Description IN ('I','RF')) END),0) "
+                  "FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
+                  "WHERE ii.Category=? AND ii.Code=?)");
+    query.addBindValue(table);
+    query.addBindValue(code);
+    query.addBindValue(table);
+    query.addBindValue(code);
+    if (!query.exec() || !query.next()) {
+        if (ok)
+            *ok = false;
+        return 0.0;
+    }
+    return query.value(0).toDouble() - query.value(1).toDouble();
+}
+
+void Utility::stockItemTraceAudit(const QString &code, const QString &table)
+{
+    Q_UNUSED(code);
+    Q_UNUSED(table);
+}
+
+void Utility::showHelp()
+{
+    if (!helpWindow) {
+        helpWindow = new QTextBrowser;
+        helpWindow->setObjectName("QuorelHelp");
+        helpWindow->setWindowTitle(tr("Quorel Admin Help"));
+        helpWindow->setOpenExternalLinks(false);
+        helpWindow->resize(640, 560);
+        QFile file(":/quorel/help.html");
+        if (file.open(QIODevice::ReadOnly))
+            helpWindow->setHtml(QString::fromUtf8(file.readAll()));
+    }
+    helpWindow->show();
+    helpWindow->raise();
+}
+
+void Utility::checkMemoryLeaks()
+{
+    // Closed help is not kept around between saves.
+    if (helpWindow && !helpWindow->isVisible()) {
+        delete helpWindow;
+        helpWindow = nullptr;
+    }
+}
+
+QPalette Utility::normalPalette()
+{
+    return QApplication::palette();
+}
+
+QPalette Utility::warningPalette()
+{
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Base, QColor(255, 214, 214));
+    palette.setColor(QPalette::Text, QColor(150, 0, 0));
+    return palette;
+}
