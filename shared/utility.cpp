@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLocale>
 #include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -24,6 +25,17 @@ bool connectionIsMySql()
 {
     return QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)
         .driverName().startsWith(QLatin1String("QMYSQL"));
+}
+
+// Half away from zero on the decimal value the double stands for: 1.005 is stored as
+// 1.00499999999999989..., and that binary noise (below the 15th significant digit) must not tip a
+// half cent downwards, nor make two ties of the same kind round differently.
+double roundHalfAway(double value, int decimals)
+{
+    const double scale = std::pow(10.0, decimals);
+    const double scaled = QString::number(value * scale, 'g', 15).toDouble();
+    const double rounded = std::round(scaled) / scale;
+    return rounded == 0.0 ? 0.0 : rounded; // no "-0.00"
 }
 
 // The help window is not modal: the administrator reads it beside the main window.
@@ -131,26 +143,22 @@ QString Utility::numStr(double value, int decimals)
 {
     if (std::isnan(value) || std::isinf(value))
         return QString::number(value);
-    QString text = QString::number(value, 'f', qMax(0, decimals));
-    // A value that rounds to zero is shown without its sign.
-    if (text.startsWith(QLatin1Char('-')) && text.count(QLatin1Char('0')) + text.count(QLatin1Char('.')) == text.size() - 1)
-        text.remove(0, 1);
-    return text;
+    decimals = qMax(0, decimals);
+    return QString::number(roundHalfAway(value, decimals), 'f', decimals);
 }
 
 double Utility::strNum(const QString &text, bool *ok)
 {
     QString t = text.trimmed();
     t.remove(QLatin1Char(' '));
+    // The C locale takes "1,234.50" but not "12,5": a comma that does not group thousands is no
+    // number rather than a silent factor of ten.
     bool good = false;
-    double value = t.toDouble(&good);
-    if (!good && t.contains(QLatin1Char(','))) {
-        // "1,234.50": the comma only groups thousands.
-        QString grouped = t;
-        value = grouped.remove(QLatin1Char(',')).toDouble(&good);
-    }
-    if (!good)
+    double value = QLocale::c().toDouble(t, &good);
+    if (!good || !std::isfinite(value)) {
+        good = false;
         value = 0.0;
+    }
     if (ok)
         *ok = good;
     return value;
@@ -159,7 +167,7 @@ double Utility::strNum(const QString &text, bool *ok)
 double Utility::calcTax(double amount, double rate)
 {
     // Tax is levied in whole cents, half a cent away from zero.
-    return std::round(amount * rate * 100.0) / 100.0;
+    return roundHalfAway(amount * rate, 2);
 }
 
 QString Utility::rot13(const QString &text)
