@@ -87,9 +87,8 @@ bool Utility::initClass(bool reload)
 
 int Utility::validateLoginId()
 {
-    static bool lastFailed = false;
     LoginDialog dialog;
-    if (lastFailed)
+    if (lastLoginFailed)
         dialog.setMessage(tr("The login id or code is not correct. Try again."));
     if (Prompter::current()->exec(&dialog) != QDialog::Accepted)
         return 2;
@@ -99,11 +98,11 @@ int Utility::validateLoginId()
     query.addBindValue(dialog.code());
     if (!query.exec()) {
         showDBError(query);
-        lastFailed = true;
+        lastLoginFailed = true;
         return 1;
     }
-    lastFailed = !query.next();
-    if (lastFailed)
+    lastLoginFailed = !query.next();
+    if (lastLoginFailed)
         return 1;
     login = dialog.loginId();
     return 0;

@@ -62,6 +62,7 @@ private:
     double tax1 = 0.0;
     double tax2 = 0.0;
     bool loaded = false;
+    bool lastLoginFailed = false; // the next login dialog says the last one was wrong
 };
 
 #endif
