@@ -6,7 +6,9 @@ namespace {
 // Digits with an optional point and at most `decimals` digits after it; `sign` allows a minus.
 QValidator::State numberShape(const QString &input, int decimals, bool sign)
 {
-    if (input.isEmpty() || (sign && input == QLatin1String("-")))
+    // A lone point or sign is on its way to a number, not one yet.
+    if (input.isEmpty() || input == QLatin1String(".")
+        || (sign && (input == QLatin1String("-") || input == QLatin1String("-."))))
         return QValidator::Intermediate;
     const QString pattern = QString("^%1[0-9]*(\\.[0-9]{0,%2})?$").arg(sign ? "-?" : "").arg(decimals);
     return QRegularExpression(pattern).match(input).hasMatch() ? QValidator::Acceptable
