@@ -1,0 +1,122 @@
+#include "schema.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlQuery>
+
+// The DDL lives in a static library; its resources need an explicit start.
+static void initSchemaResources()
+{
+    Q_INIT_RESOURCE(schema);
+}
+
+namespace Schema {
+
+namespace {
+
+QString resourceName(Dialect::Engine e)
+{
+    switch (e) {
+    case Dialect::MySQL:
+        return ":/schema/mariadb.sql";
+    case Dialect::SQLite:
+        return ":/schema/sqlite.sql";
+    default:
+        return ":/schema/postgres.sql";
+    }
+}
+
+QString readDdl(Dialect::Engine e)
+{
+    static const bool started = (initSchemaResources(), true);
+    Q_UNUSED(started);
+    QFile file(resourceName(e));
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.readAll());
+}
+
+bool run(QSqlDatabase &db, const QString &sql, QString *error)
+{
+    QSqlQuery query(db);
+    if (query.exec(sql))
+        return true;
+    if (error)
+        *error = query.lastError().text() + "\n" + sql;
+    return false;
+}
+
+// SQLite and PostgreSQL take DDL inside a transaction: one commit instead of one per statement.
+bool runAll(QSqlDatabase &db, Dialect::Engine e, const QStringList &sqls, QString *error)
+{
+    const bool inTransaction = e != Dialect::MySQL && db.transaction();
+    for (const QString &sql : sqls) {
+        if (!run(db, sql, error)) {
+            if (inTransaction)
+                db.rollback();
+            return false;
+        }
+    }
+    if (inTransaction && !db.commit()) {
+        if (error)
+            *error = db.lastError().text();
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+QStringList tables()
+{
+    return {"SysInfo",   "Goods",          "Hospital",   "Consult",  "Diagnosis",   "Injection",
+            "Lab",       "Medication",     "Proc",       "Vaccination", "StockTrace", "StockTraceItem",
+            "Owner",     "Patient",        "Invoice",    "InvoiceItem", "Journal",  "Operators",
+            "Permissions", "Supply",       "AutoProc",   "AutoProcContents", "breeds"};
+}
+
+QStringList statements(Dialect::Engine e)
+{
+    static const QRegularExpression comment("--[^\n]*");
+    static const QRegularExpression end(";\\s*(\n|$)");
+    QStringList result;
+    const QStringList parts = readDdl(e).remove(comment).split(end);
+    for (const QString &part : parts) {
+        const QString sql = part.trimmed();
+        if (!sql.isEmpty())
+            result << sql;
+    }
+    return result;
+}
+
+bool create(QSqlDatabase db, Dialect::Engine e, QString *error)
+{
+    const QStringList sqls = statements(e);
+    if (sqls.isEmpty()) {
+        if (error)
+            *error = QString("The schema of this engine could not be read (%1).").arg(resourceName(e));
+        return false;
+    }
+    return runAll(db, e, sqls, error);
+}
+
+bool dropAll(QSqlDatabase db, Dialect::Engine e, QString *error)
+{
+    const QString list = tables().join(',');
+    switch (e) {
+    case Dialect::MySQL:
+        return run(db, "DROP TABLE IF EXISTS " + list, error);
+    case Dialect::PostgreSQL:
+        return runAll(db, e, {"DROP TABLE IF EXISTS " + list + " CASCADE",
+                              "DROP SEQUENCE IF EXISTS stocktrace_seq"}, error);
+    default: {
+        QStringList drops;
+        for (const QString &table : tables())
+            drops << "DROP TABLE IF EXISTS " + table;
+        return runAll(db, e, drops, error);
+    }
+    }
+}
+
+} // namespace Schema

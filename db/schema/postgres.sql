@@ -1,0 +1,435 @@
+-- Quorel schema, PostgreSQL. Names are unquoted and therefore folded to lower case; the
+-- statements of the program name them in any case. StockTrace takes its key from stocktrace_seq.
+-- Columns common to the nine product tables (Goods ... Vaccination); DaysToReminder only in
+-- Vaccination. Codes are text holding a number; uniqueness of Code is checked by the program, not
+-- here, because history may hold anything. Dates are "yyyy-MM-dd" text. Yes/no flags are 'Y'/'N'.
+
+CREATE TABLE SysInfo (
+    ALINE1 VARCHAR(255) DEFAULT '',
+    ALINE2 VARCHAR(255) DEFAULT '',
+    ALINE3 VARCHAR(255) DEFAULT '',
+    ALINE4 VARCHAR(255) DEFAULT '',
+    ALINE5 VARCHAR(255) DEFAULT '',
+    ALINE6 VARCHAR(255) DEFAULT '',
+    ALINE7 VARCHAR(255) DEFAULT '',
+    InvFooter VARCHAR(255) DEFAULT '',
+    InvFooter1 VARCHAR(255) DEFAULT '',
+    RecFooter VARCHAR(255) DEFAULT '',
+    StatementFooter1 VARCHAR(255) DEFAULT '',
+    StatementFooter2 VARCHAR(255) DEFAULT '',
+    StatementFooter3 VARCHAR(255) DEFAULT '',
+    HandOverFooter VARCHAR(255) DEFAULT '',
+    LABEL2 VARCHAR(255) DEFAULT '',
+    LABEL3 VARCHAR(255) DEFAULT '',
+    Tax1Name VARCHAR(255) DEFAULT '',
+    Tax2Name VARCHAR(255) DEFAULT '',
+    ALINE1_A VARCHAR(255) DEFAULT '',
+    ALINE2_A VARCHAR(255) DEFAULT '',
+    ALINE3_A VARCHAR(255) DEFAULT '',
+    ALINE4_A VARCHAR(255) DEFAULT '',
+    ALINE5_A VARCHAR(255) DEFAULT '',
+    ALINE6_A VARCHAR(255) DEFAULT '',
+    ALINE7_A VARCHAR(255) DEFAULT '',
+    InvFooter_A VARCHAR(255) DEFAULT '',
+    InvFooter1_A VARCHAR(255) DEFAULT '',
+    RecFooter_A VARCHAR(255) DEFAULT '',
+    StatementFooter1_A VARCHAR(255) DEFAULT '',
+    StatementFooter2_A VARCHAR(255) DEFAULT '',
+    StatementFooter3_A VARCHAR(255) DEFAULT '',
+    HandOverFooter_A VARCHAR(255) DEFAULT '',
+    LABEL2_A VARCHAR(255) DEFAULT '',
+    LABEL3_A VARCHAR(255) DEFAULT '',
+    Tax1Name_A VARCHAR(255) DEFAULT '',
+    Tax2Name_A VARCHAR(255) DEFAULT '',
+    Tax1 DOUBLE PRECISION DEFAULT 0,
+    Tax2 DOUBLE PRECISION DEFAULT 0
+);
+
+CREATE TABLE Goods (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX goods_code ON Goods (Code);
+CREATE INDEX goods_active ON Goods (Active, Description);
+
+CREATE TABLE Hospital (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX hospital_code ON Hospital (Code);
+CREATE INDEX hospital_active ON Hospital (Active, Description);
+
+CREATE TABLE Consult (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX consult_code ON Consult (Code);
+CREATE INDEX consult_active ON Consult (Active, Description);
+
+CREATE TABLE Diagnosis (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX diagnosis_code ON Diagnosis (Code);
+CREATE INDEX diagnosis_active ON Diagnosis (Active, Description);
+
+CREATE TABLE Injection (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX injection_code ON Injection (Code);
+CREATE INDEX injection_active ON Injection (Active, Description);
+
+CREATE TABLE Lab (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX lab_code ON Lab (Code);
+CREATE INDEX lab_active ON Lab (Active, Description);
+
+CREATE TABLE Medication (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX medication_code ON Medication (Code);
+CREATE INDEX medication_active ON Medication (Active, Description);
+
+CREATE TABLE Proc (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX proc_code ON Proc (Code);
+CREATE INDEX proc_active ON Proc (Active, Description);
+
+CREATE TABLE Vaccination (
+    Code VARCHAR(20),
+    Description VARCHAR(100),
+    Description_A VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    Cost DOUBLE PRECISION DEFAULT 0,
+    MarkUp DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    Tax1 VARCHAR(1) DEFAULT 'Y',
+    Tax2 VARCHAR(1) DEFAULT 'N',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    ReOrder DOUBLE PRECISION DEFAULT 0,
+    ToQuantity DOUBLE PRECISION DEFAULT 0,
+    OnOrder DOUBLE PRECISION DEFAULT 0,
+    OrderDate VARCHAR(20) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    Remarks TEXT,
+    Active VARCHAR(1) DEFAULT 'Y',
+    DaysToReminder INTEGER DEFAULT 0
+);
+
+CREATE INDEX vaccination_code ON Vaccination (Code);
+CREATE INDEX vaccination_active ON Vaccination (Active, Description);
+
+CREATE SEQUENCE stocktrace_seq;
+
+CREATE TABLE StockTrace (
+    TraceNumber INTEGER NOT NULL DEFAULT nextval('stocktrace_seq') PRIMARY KEY,
+    MyDate VARCHAR(20),
+    SP VARCHAR(50) DEFAULT '',
+    Notes VARCHAR(255) DEFAULT '',
+    Supplier VARCHAR(100) DEFAULT '',
+    InvoiceNumber VARCHAR(50) DEFAULT '',
+    Adjustment VARCHAR(1) DEFAULT 'N'
+);
+
+ALTER SEQUENCE stocktrace_seq OWNED BY StockTrace.TraceNumber;
+
+CREATE INDEX stocktrace_date ON StockTrace (MyDate);
+
+CREATE TABLE StockTraceItem (
+    TraceNumber INTEGER,
+    Category VARCHAR(20),
+    Code VARCHAR(20),
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT '',
+    Description VARCHAR(100) DEFAULT '',
+    Schedule INTEGER DEFAULT 0,
+    Batch VARCHAR(50) DEFAULT ''
+);
+
+CREATE INDEX stocktraceitem_product ON StockTraceItem (Category, Code);
+CREATE INDEX stocktraceitem_trace ON StockTraceItem (TraceNumber);
+
+CREATE TABLE Owner (
+    AccountNumber INTEGER NOT NULL PRIMARY KEY,
+    Title VARCHAR(20) DEFAULT '',
+    Initials VARCHAR(10) DEFAULT '',
+    Surname VARCHAR(100) DEFAULT '',
+    IDno VARCHAR(30) DEFAULT '',
+    TelHome VARCHAR(30) DEFAULT '',
+    TelWork VARCHAR(30) DEFAULT '',
+    Cell VARCHAR(30) DEFAULT '',
+    PhysAddr VARCHAR(255) DEFAULT '',
+    PostalAddr VARCHAR(255) DEFAULT '',
+    Email VARCHAR(100) DEFAULT '',
+    Notes TEXT,
+    BadDebt VARCHAR(1) DEFAULT 'N',
+    Created VARCHAR(20)
+);
+
+CREATE INDEX owner_created ON Owner (Created);
+CREATE INDEX owner_baddebt ON Owner (BadDebt);
+
+CREATE TABLE Patient (
+    PetNumber INTEGER NOT NULL PRIMARY KEY,
+    AccountNumber INTEGER,
+    Name VARCHAR(50) DEFAULT '',
+    Weight DOUBLE PRECISION DEFAULT 0,
+    Sex VARCHAR(10) DEFAULT '',
+    Breed VARCHAR(100) DEFAULT ''
+);
+
+CREATE INDEX patient_account ON Patient (AccountNumber);
+
+CREATE TABLE Invoice (
+    MyNumber INTEGER NOT NULL PRIMARY KEY,
+    AccountNumber INTEGER,
+    PetNumber INTEGER,
+    MyDate VARCHAR(20),
+    Status VARCHAR(2) DEFAULT ''
+);
+
+CREATE INDEX invoice_status ON Invoice (Status);
+CREATE INDEX invoice_date ON Invoice (MyDate);
+CREATE INDEX invoice_account ON Invoice (AccountNumber);
+
+CREATE TABLE InvoiceItem (
+    InvoiceNumber INTEGER,
+    Petnumber INTEGER,
+    MyDate VARCHAR(20),
+    Vet VARCHAR(10) DEFAULT '',
+    Category VARCHAR(20),
+    Code VARCHAR(20),
+    Description VARCHAR(100) DEFAULT '',
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    Price DOUBLE PRECISION DEFAULT 0,
+    UnitOfMeasure VARCHAR(30) DEFAULT ''
+);
+
+CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate);
+CREATE INDEX invoiceitem_invoice ON InvoiceItem (InvoiceNumber);
+CREATE INDEX invoiceitem_date ON InvoiceItem (MyDate, Category);
+CREATE INDEX invoiceitem_vet ON InvoiceItem (Vet, MyDate);
+CREATE INDEX invoiceitem_pet ON InvoiceItem (Petnumber);
+
+CREATE TABLE Journal (
+    MyNumber INTEGER,
+    AccountNumber INTEGER,
+    MyDate VARCHAR(20),
+    Description VARCHAR(100) DEFAULT '',
+    Amount DOUBLE PRECISION DEFAULT 0,
+    Rounding DOUBLE PRECISION DEFAULT 0
+);
+
+CREATE INDEX journal_number ON Journal (MyNumber, Description);
+CREATE INDEX journal_account ON Journal (AccountNumber, MyDate);
+CREATE INDEX journal_date ON Journal (MyDate);
+
+CREATE TABLE Operators (
+    Operator VARCHAR(50) NOT NULL PRIMARY KEY,
+    id VARCHAR(50),
+    Initials VARCHAR(10) DEFAULT '',
+    Diary VARCHAR(1) DEFAULT 'N',
+    Commission DOUBLE PRECISION DEFAULT 0
+);
+
+CREATE INDEX operators_initials ON Operators (Initials);
+
+CREATE TABLE Permissions (
+    keynum SERIAL PRIMARY KEY,
+    Operator VARCHAR(50),
+    Class VARCHAR(50),
+    Description VARCHAR(100)
+);
+
+CREATE INDEX permissions_operator ON Permissions (Operator);
+
+CREATE TABLE Supply (
+    keynum SERIAL PRIMARY KEY,
+    Company VARCHAR(100) DEFAULT '',
+    Contact VARCHAR(100) DEFAULT '',
+    Email VARCHAR(100) DEFAULT '',
+    Tel VARCHAR(30) DEFAULT '',
+    Fax VARCHAR(30) DEFAULT '',
+    Cell VARCHAR(30) DEFAULT '',
+    PostalAddr VARCHAR(255) DEFAULT '',
+    PhysicalAddr VARCHAR(255) DEFAULT '',
+    Lab VARCHAR(1) DEFAULT 'N'
+);
+
+CREATE INDEX supply_company ON Supply (Company);
+
+CREATE TABLE AutoProc (
+    Code SERIAL PRIMARY KEY,
+    Description VARCHAR(100) DEFAULT ''
+);
+
+CREATE INDEX autoproc_description ON AutoProc (Description);
+
+CREATE TABLE AutoProcContents (
+    id SERIAL PRIMARY KEY,
+    ProcId INTEGER,
+    Category VARCHAR(20),
+    Code VARCHAR(20),
+    Quantity DOUBLE PRECISION DEFAULT 0,
+    Charge VARCHAR(1) DEFAULT 'Y'
+);
+
+CREATE INDEX autoproccontents_proc ON AutoProcContents (ProcId);
+
+CREATE TABLE breeds (
+    keynum SERIAL PRIMARY KEY,
+    Description VARCHAR(100) DEFAULT '',
+    Description_A VARCHAR(100) DEFAULT ''
+);
