@@ -20,11 +20,6 @@
 namespace {
 QWidget *theMainWindow = nullptr;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Startup", text);
-}
-
 void preparePersonalFolder()
 {
     QDir home(qEnvironmentVariable("HOME"));
@@ -78,7 +73,9 @@ bool openDatabase()
 {
     QSqlDatabase db = QSqlDatabase::addDatabase(Dialect::qtDriverName(driverSetting()));
     if (!db.isValid()) {
-        Prompter::critical(nullptr, tr("Quorel"), tr("Could not load the database driver %1").arg(driverSetting()));
+        Prompter::critical(nullptr, QCoreApplication::translate("Startup", "Quorel"),
+                           QCoreApplication::translate("Startup", "Could not load the database driver %1")
+                               .arg(driverSetting()));
         return false;
     }
     db.setConnectOptions(Dialect::connectOptions(db.driverName()));

@@ -17,11 +17,6 @@ Prompter *widgetPrompter()
     static WidgetPrompter instance;
     return &instance;
 }
-
-QString trLib(const char *text)
-{
-    return QCoreApplication::translate("Utility", text);
-}
 } // namespace
 
 Prompter::~Prompter() = default;
@@ -38,7 +33,9 @@ void Prompter::install(Prompter *p)
 
 bool Prompter::confirm(QWidget *parent, const QString &caption, const QString &text)
 {
-    return current()->message(parent, Information, caption, text, {trLib("&Yes"), trLib("&No")}, 1, 1) == 0;
+    const QStringList buttons{QCoreApplication::translate("Utility", "&Yes"),
+                              QCoreApplication::translate("Utility", "&No")};
+    return current()->message(parent, Information, caption, text, buttons, 1, 1) == 0;
 }
 
 void Prompter::inform(QWidget *parent, const QString &caption, const QString &text)
@@ -62,7 +59,7 @@ int WidgetPrompter::message(QWidget *parent, Icon icon, const QString &caption, 
     static const QMessageBox::Icon icons[] = {QMessageBox::Information, QMessageBox::Warning,
                                               QMessageBox::Critical, QMessageBox::Question};
     QMessageBox box(icons[icon], caption, text, QMessageBox::NoButton, parent);
-    const QStringList texts = buttons.isEmpty() ? QStringList{trLib("OK")} : buttons;
+    const QStringList texts = buttons.isEmpty() ? QStringList{QCoreApplication::translate("Utility", "OK")} : buttons;
     QList<QPushButton *> made;
     for (const QString &t : texts)
         made << box.addButton(t, QMessageBox::ActionRole);
