@@ -1,0 +1,98 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="af">
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <location filename="../shared/logindialog.cpp" line="+14"/>
+        <source>Quorel Login</source>
+        <translation>Quorel-aanmelding</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>&lt;b&gt;Quorel&lt;/b&gt; - enter your login id and code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Login id:</source>
+        <translation>Aanmeld-ID:</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Code:</source>
+        <translation>Kode:</translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>&amp;Login</source>
+        <translation>&amp;Meld aan</translation>
+    </message>
+</context>
+<context>
+    <name>Utility</name>
+    <message>
+        <location filename="../shared/prompter.cpp" line="+36"/>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>&amp;No</source>
+        <translation>&amp;Nee</translation>
+    </message>
+    <message>
+        <location line="+25"/>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <location filename="../shared/utility.cpp" line="+67"/>
+        <location line="+6"/>
+        <source>Quorel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="-5"/>
+        <source>The practice information could not be read from the table SysInfo:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>The table SysInfo holds no practice information. Create its row before starting the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>The login id or code is not correct. Try again.</source>
+        <translation>Die aanmeld-ID of kode is nie korrek nie. Probeer weer.</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>The database reported an error.
+
+Driver: %1
+Database: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>
+
+Statement:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Quorel Database Error</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+107"/>
+        <source>Quorel Admin Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
