@@ -93,15 +93,18 @@ int Utility::validateLoginId()
     if (Prompter::current()->exec(&dialog) != QDialog::Accepted)
         return 2;
     QSqlQuery query;
-    query.prepare("SELECT Operator FROM Operators WHERE Operator = ? AND id = ?");
+    query.prepare("SELECT Operator, id FROM Operators WHERE Operator = ?");
     query.addBindValue(dialog.loginId());
-    query.addBindValue(dialog.code());
     if (!query.exec()) {
         showDBError(query);
         lastLoginFailed = true;
         return 1;
     }
-    lastLoginFailed = !query.next();
+    // Compared here, not by the database: MariaDB takes 'admin ' for 'admin'.
+    bool match = false;
+    while (!match && query.next())
+        match = query.value(0).toString() == dialog.loginId() && query.value(1).toString() == dialog.code();
+    lastLoginFailed = !match;
     if (lastLoginFailed)
         return 1;
     login = dialog.loginId();
