@@ -83,8 +83,10 @@ bool openDatabase()
     db.setDatabaseName(settings->value("/Global/DBName", "Quorel").toString());
     db.setUserName(settings->value("/Global/DBUser", "Quorel").toString());
     db.setPassword(settings->value("/Global/DBPassword", "vmo").toString());
+    // A missing entry must read as "not read" (not as the default 0), so that the driver keeps its
+    // own port.
     bool ok = false;
-    const int port = settings->value("/Global/DBPort", 0).toInt(&ok);
+    const int port = settings->value("/Global/DBPort").toInt(&ok);
     if (ok)
         db.setPort(port);
     if (!db.open()) {
