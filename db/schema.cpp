@@ -108,7 +108,9 @@ bool dropAll(QSqlDatabase db, Dialect::Engine e, QString *error)
     case Dialect::MySQL:
         return run(db, "DROP TABLE IF EXISTS " + list, error);
     case Dialect::PostgreSQL:
-        return runAll(db, e, {"DROP TABLE IF EXISTS " + list + " CASCADE",
+        // SET LOCAL keeps the "does not exist, skipping" notices of a fresh database quiet.
+        return runAll(db, e, {"SET LOCAL client_min_messages TO warning",
+                              "DROP TABLE IF EXISTS " + list + " CASCADE",
                               "DROP SEQUENCE IF EXISTS stocktrace_seq"}, error);
     default: {
         QStringList drops;
