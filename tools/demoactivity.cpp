@@ -233,9 +233,10 @@ int PracticeBuilder::writeJournal(int number, int account, const QDate &day, dou
     if (chance(0.01) && !out.add("Journal", {nextInvoice++, account, date(day), "Q", round2(total * uniform(0.5, 2)), 0.0}))
         return -1;
     const bool paid = badDebt ? chance(0.3) : day.daysTo(today) < 30 ? chance(0.7) : chance(0.985);
-    return !paid || writePayment(account, number, std::min(today, day.addDays(chance(0.8) ? 0 : below(45))), value)
-               ? counting
-               : -1;
+    if (!paid)
+        return counting;
+    const QDate payday = std::min(today, day.addDays(chance(0.8) ? 0 : below(45)));
+    return writePayment(account, number, payday, value) ? counting : -1;
 }
 
 bool PracticeBuilder::writePayment(int account, int number, const QDate &day, double value)
