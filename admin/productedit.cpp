@@ -1,19 +1,289 @@
-// Not built yet: the slots of this tab do nothing until its step lands.
+// Adding, modifying and deleting products of the category shown, with the cascade of a change
+// into the tables that copy product data and the stock trace of a deletion.
 #include "admin.h"
+#include "dialect.h"
+#include "globals.h"
+#include "productform.h"
+#include "prompter.h"
+#include "utility.h"
+
+#include <QDate>
+#include <QDebug>
+#include <QSqlQuery>
+
+using namespace ProductForm;
+
+namespace {
+
+// Runs a statement; false when it failed and showDBError says to stop.
+bool run(QSqlQuery &query, const QString &sql)
+{
+    return query.exec(sql) || !utils->showDBError(query);
+}
+
+bool run(const QString &sql)
+{
+    QSqlQuery query;
+    return run(query, sql);
+}
+
+QString flag(const QAbstractButton *box)
+{
+    return box->isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
+}
+
+// Every change is confirmed first; anything but "&Yes" is reported as cancelled.
+bool confirmed(Admin *admin, const QString &caption, const QString &text)
+{
+    if (Prompter::confirm(admin, caption, text))
+        return true;
+    Prompter::inform(admin, caption, Admin::tr("Operation cancelled"));
+    return false;
+}
+
+// A product without a supplier upsets reports and orders; services have none.
+bool supplierAccepted(Admin *admin, const QString &caption, const QString &table)
+{
+    if (isServiceCategory(table) || !admin->ui.supplier_combo->currentText().trimmed().isEmpty())
+        return true;
+    return confirmed(admin, caption,
+                     Admin::tr("<font color=\"red\">No supplier has been selected.</font><p>This is not "
+                               "recommended and may cause problems with reports and orders.<p>Do you wish "
+                               "to continue ?"));
+}
+
+// One above the largest numeric code below 100000. MySQL and SQLite take ABS of a text column as
+// the number its leading digits spell ('12x' is 12, 'abc' is 0, ' 7' is 7); PostgreSQL has no
+// abs(text), so there the same leading number is cut out with a pattern, and a code without one
+// counts as 0, as on the other engines.
+QString codeAllocationQuery(const QString &table)
+{
+    QString number = "ABS(Code)";
+    if (Dialect::connectedEngine() == Dialect::PostgreSQL)
+        number = "ABS(COALESCE(CAST(SUBSTRING(Code FROM "
+                 "'^\\s*([-+]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][-+]?[0-9]+)?)') AS double precision),0))";
+    return "SELECT MAX(" + number + ")+1 FROM " + table + " WHERE " + number + " < 100000";
+}
+
+// An empty table gives NULL: the first code is then 1. SQLite answers in floating point (1235.0);
+// the code is written as the plain number on every engine.
+bool allocateCode(Admin *admin, const QString &table)
+{
+    QSqlQuery query;
+    if (!run(query, codeAllocationQuery(table)))
+        return false;
+    const QVariant next = query.next() ? query.value(0) : QVariant();
+    admin->ui.code_tf->setText(next.isNull() ? QStringLiteral("1") : QString::number(next.toDouble(), 'g', 15));
+    return true;
+}
+
+// False when the code is taken (after the warning) or the lookup is to stop.
+bool codeIsFree(Admin *admin, const QString &table, const QString &code)
+{
+    QSqlQuery query;
+    if (!run(query, "SELECT Description FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+        return false;
+    if (!query.next())
+        return true;
+    Prompter::warn(admin, Admin::tr("New Entry"),
+                   Admin::tr("The product %1 is already allocated Code %2").arg(query.value(0).toString(), code));
+    return false;
+}
+
+// A new product starts with no stock, whatever quantity_tf shows: stock only enters through
+// stock movements.
+QString insertStatement(Admin *admin, const QString &table)
+{
+    const Ui::Admin &ui = admin->ui;
+    const QStringList values{
+        sqlText(ui.code_tf->text()), sqlText(ui.description_tf->text()),
+        QString::number(ui.schedule_combo->currentIndex()), sqlText(ui.uom_tf->text()),
+        sqlNumber(ui.sell_tf->text()), sqlNumber(ui.markup_tf->text()), sqlNumber(ui.cost_tf->text()),
+        "0", sqlNumber(ui.level_tf->text()), sqlNumber(ui.toqty_tf->text()), sqlNumber(ui.onorder_tf->text()),
+        sqlText(ui.supplier_combo->currentText()), sqlText(ui.description_A_tf->text()),
+        sqlText(ui.uom_A_tf->text()), flag(ui.Tax1_checkBox), flag(ui.Tax2_checkBox), QString(),
+        flag(ui.active_tb)};
+    return "INSERT INTO " + table + " (Code,Description,Schedule,UnitOfMeasure,"
+           "Price,MarkUp,Cost,Quantity,ReOrder,ToQuantity,OnOrder,"
+           "Supplier,Description_A,UnitOfMeasure_A,Tax1,Tax2,Remarks,Active) VALUES ('"
+         + values.join("','") + "')";
+}
+
+QString updateStatement(Admin *admin, const QString &table, const QString &oldCode)
+{
+    const Ui::Admin &ui = admin->ui;
+    return "UPDATE " + table + " SET Code='" + sqlText(ui.code_tf->text()) + "',"
+         + "Description='" + sqlText(ui.description_tf->text()) + "',"
+         + "Schedule='" + QString::number(ui.schedule_combo->currentIndex()) + "',"
+         + "UnitOfMeasure='" + sqlText(ui.uom_tf->text()) + "',"
+         + "Price='" + sqlNumber(ui.sell_tf->text()) + "',"
+         + "Markup='" + sqlNumber(ui.markup_tf->text()) + "',"
+         + "Cost='" + sqlNumber(ui.cost_tf->text()) + "',"
+         + "ReOrder='" + sqlNumber(ui.level_tf->text()) + "',"
+         + "OnOrder='" + sqlNumber(ui.onorder_tf->text()) + "',"
+         + "ToQuantity='" + sqlNumber(ui.toqty_tf->text()) + "',"
+         + "Supplier='" + sqlText(ui.supplier_combo->currentText()) + "',"
+         + "Description_A='" + sqlText(ui.description_A_tf->text()) + "',"
+         + "UnitOfMeasure_A='" + sqlText(ui.uom_A_tf->text()) + "',"
+         + "Tax1='" + flag(ui.Tax1_checkBox) + "',"
+         + "Tax2='" + flag(ui.Tax2_checkBox) + "',"
+         + "Active='" + flag(ui.active_tb) + "' "
+         + "WHERE Code='" + sqlText(oldCode) + "'";
+}
+
+// DaysToReminder is an integer column: the typed days go in as a whole number, so that neither
+// an empty field ('') nor a fraction is refused by strict MariaDB or PostgreSQL.
+QString daysToReminder(Admin *admin)
+{
+    return QString::number(qRound(Utility::strNum(admin->ui.dtr_tf->text(), nullptr)));
+}
+
+// What the highlighted row said before the modification.
+struct ListedProduct {
+    QString code, description, schedule, unit;
+};
+
+// Automated procedures refer to products by category and code only; the history rows are matched
+// on all their copied values, so that rows written under an earlier description keep it.
+bool cascadeChange(Admin *admin, const QString &table, const ListedProduct &old)
+{
+    const Ui::Admin &ui = admin->ui;
+    const QString code = sqlText(ui.code_tf->text());
+    const QString description = sqlText(ui.description_tf->text());
+    const QString unit = sqlText(ui.uom_tf->text());
+    const QString schedule = QString::number(ui.schedule_combo->currentIndex());
+    const QString oldCode = sqlText(old.code);
+    return run("UPDATE AutoProcContents SET Code='" + code + "' WHERE Code='" + oldCode + "' AND "
+               + "Category='" + table + "'")
+        && run("UPDATE StockTraceItem SET Code='" + code + "'," + "Description='" + description + "',"
+               + "Schedule=" + schedule + "," + "UnitOfMeasure='" + unit + "' WHERE Category='" + table
+               + "' AND " + "Code='" + oldCode + "' AND " + "Description='" + sqlText(old.description)
+               + "' AND " + "Schedule=" + QString::number(old.schedule.toInt()) + " AND "
+               + "UnitOfMeasure='" + sqlText(old.unit) + "'")
+        && run("UPDATE InvoiceItem SET Code='" + code + "'," + "Description='" + description + "',"
+               + "UnitOfMeasure='" + unit + "' WHERE Category='" + table + "' AND " + "Code='" + oldCode
+               + "' AND " + "Description='" + sqlText(old.description) + "' AND " + "UnitOfMeasure='"
+               + sqlText(old.unit) + "'");
+}
+
+// Reloads the category and selects the row under `code`, when one is given.
+void reloadAndSelect(Admin *admin, const QString &code)
+{
+    admin->categorySelected(admin->ui.category_combo->currentText());
+    if (!code.isNull())
+        selectCode(admin, code);
+}
+
+// The stock on hand recorded for the removal is read after the DELETE, so it is that of any row
+// left under the same code, otherwise 0.
+bool traceDeletion(Admin *admin, const QString &table, const QString &code)
+{
+    const Ui::Admin &ui = admin->ui;
+    QSqlQuery quantityQuery;
+    if (!run(quantityQuery, "SELECT Quantity FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+        return false;
+    const double quantity = quantityQuery.next() ? quantityQuery.value(0).toDouble() : 0.0;
+    if (!run("INSERT INTO StockTrace (MyDate, SP, Notes, Supplier, InvoiceNumber, Adjustment) VALUES ('"
+             + QDate::currentDate().toString("yyyy-MM-dd") + "','Admin','"
+             + sqlText(Admin::tr("Deletion of item from stock.")) + "','"
+             + sqlText(ui.supplier_combo->currentText()) + "','','Y')"))
+        return false;
+    // Read on the default connection right after the INSERT: the key is the session's own.
+    QSqlQuery keyQuery;
+    if (!keyQuery.exec(Dialect::lastTraceNumberQuery()) || !keyQuery.next() || keyQuery.value(0).isNull()) {
+        qDebug() << "SockTrace: error..";
+        return true;
+    }
+    return run("INSERT INTO StockTraceItem (TraceNumber, Category,Quantity, UnitOfMeasure, Description, "
+               "Schedule, Batch) VALUES ('"
+               + keyQuery.value(0).toString() + "','" + table + "','" + QString::number(quantity, 'g', 6)
+               + "','" + sqlText(ui.uom_tf->text()) + "','" + sqlText(ui.description_tf->text()) + "','"
+               + QString::number(ui.schedule_combo->currentIndex()) + "','')");
+}
+
+} // namespace
 
 void Admin::newEntry()
 {
+    const QString table = currentCategoryTable();
+    if (ui.code_tf->text().isEmpty() && !allocateCode(this, table))
+        return;
+    const QString code = ui.code_tf->text();
+    if (!codeIsFree(this, table, code))
+        return;
+    if (!confirmed(this, tr("New Entry"),
+                   tr("Confirm you wish to add product %1 with code %2").arg(ui.description_tf->text(), code)))
+        return;
+    if (!supplierAccepted(this, tr("New Entry"), table))
+        return;
+    if (!run(insertStatement(this, table)))
+        return;
+    if (dtrShown(this)
+        && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "' WHERE Code='"
+                + sqlText(code) + "'"))
+        return;
+    reloadAndSelect(this, code);
 }
 
 void Admin::modifyEntry()
 {
+    modifyProduct();
 }
 
+// The cascade runs after every modification: its change test compares the schedule against an
+// empty text and so always sees a change, and that must stay so. With unchanged values its
+// statements match only rows that they leave as they are.
 void Admin::modifyProduct()
 {
+    const QTreeWidgetItem *current = ui.list->currentItem();
+    if (!current) {
+        Prompter::warn(this, tr("Modify Entry"), tr("You must highlight an entry to modify"));
+        return;
+    }
+    const ListedProduct old{current->text(0), current->text(1), current->text(2), current->text(3)};
+    const QString code = ui.code_tf->text();
+    if (code.isEmpty() || ui.description_tf->text().isEmpty()) {
+        Prompter::critical(this, tr("Modify Entry"), tr("You may not have a blank Code or Description"));
+        return;
+    }
+    if (!confirmed(this, tr("Modify Entry"),
+                   tr("Confirm that you will update the highlighted entry\n%1, Code %2\nwith the values shown ?")
+                       .arg(ui.description_tf->text(), code)))
+        return;
+    const QString table = currentCategoryTable();
+    if (!supplierAccepted(this, tr("Modify Entry"), table))
+        return;
+    if (!run(updateStatement(this, table, old.code)))
+        return;
+    if (dtrShown(this)
+        && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "'WHERE Code='"
+                + sqlText(code) + "'"))
+        return;
+    if (!cascadeChange(this, table, old))
+        return;
+    reloadAndSelect(this, code);
 }
 
 void Admin::deleteEntry()
 {
+    QTreeWidgetItem *current = ui.list->currentItem();
+    if (!current) {
+        Prompter::warn(this, tr("Delete Entry"), tr("You must highlight an entry to delete"));
+        return;
+    }
+    QTreeWidgetItem *neighbour = ui.list->itemBelow(current);
+    if (!neighbour)
+        neighbour = ui.list->itemAbove(current);
+    const QString neighbourCode = neighbour ? neighbour->text(0) : QString();
+    const QString code = ui.code_tf->text();
+    if (!confirmed(this, tr("Delete Entry"),
+                   tr("Confirm that you will delete the highlighted entry\n%1, Code %2\nfrom the system?")
+                       .arg(ui.description_tf->text(), code)))
+        return;
+    const QString table = currentCategoryTable();
+    if (!run("DELETE FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+        return;
+    if (!isServiceCategory(table) && !traceDeletion(this, table, code))
+        return;
+    reloadAndSelect(this, neighbourCode);
 }
-

@@ -1,0 +1,100 @@
+#include "productform.h"
+
+#include "admin.h"
+#include "globals.h"
+#include "utility.h"
+
+#include <QPalette>
+#include <QSqlQuery>
+#include <QTreeWidget>
+
+namespace ProductForm {
+
+QList<QWidget *> activeDependentWidgets(Admin *admin)
+{
+    Ui::Admin &ui = admin->ui;
+    return {ui.supplier_combo, ui.code_tf,     ui.description_tf, ui.schedule_combo, ui.uom_tf,
+            ui.markup_tf,      ui.cost_tf,     ui.quantity_tf,    ui.level_tf,       ui.toqty_tf,
+            ui.onorder_tf,     ui.description_A_tf, ui.uom_A_tf,  ui.dtr_tf};
+}
+
+void setActiveDependentEnabled(Admin *admin, bool enabled)
+{
+    for (QWidget *widget : activeDependentWidgets(admin))
+        widget->setEnabled(enabled);
+}
+
+QColor normalTitleColour()
+{
+    return Utility::normalPalette().color(QPalette::Active, QPalette::Window);
+}
+
+void setTitleColour(Admin *admin, const QColor &colour)
+{
+    QWidget *title = admin->ui.TextLabel8;
+    QPalette palette = title->palette();
+    palette.setColor(QPalette::Window, colour);
+    title->setPalette(palette);
+    title->setAutoFillBackground(true);
+}
+
+void setFieldBackground(QLineEdit *field, const QColor &colour)
+{
+    QPalette palette = field->palette();
+    palette.setColor(QPalette::Base, colour);
+    field->setPalette(palette);
+}
+
+bool refillSuppliers(Admin *admin, const QString &sql)
+{
+    QComboBox *combo = admin->ui.supplier_combo;
+    combo->clear();
+    combo->addItem(QStringLiteral(" "));
+    QSqlQuery query;
+    if (!query.exec(sql))
+        return !utils->showDBError(query);
+    while (query.next())
+        combo->addItem(query.value(0).toString());
+    return true;
+}
+
+QString sqlNumber(const QString &typed)
+{
+    return QString::number(Utility::strNum(typed, nullptr), 'g', 6);
+}
+
+QString sqlText(const QString &typed)
+{
+    return utils->escapeSQL(typed, false);
+}
+
+bool isServiceCategory(const QString &table)
+{
+    return table == QLatin1String("Consult") || table == QLatin1String("Diagnosis")
+        || table == QLatin1String("Proc");
+}
+
+void selectItem(Admin *admin, QTreeWidgetItem *item)
+{
+    admin->ui.list->setCurrentItem(item, 0, QItemSelectionModel::ClearAndSelect);
+    admin->ui.list->scrollToItem(item);
+}
+
+bool selectCode(Admin *admin, const QString &code)
+{
+    QTreeWidget *list = admin->ui.list;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        if (list->topLevelItem(i)->text(0) == code) {
+            selectItem(admin, list->topLevelItem(i));
+            return true;
+        }
+    }
+    return false;
+}
+
+bool dtrShown(Admin *admin)
+{
+    return !admin->ui.dtr_lab->isHidden();
+}
+
+} // namespace ProductForm
