@@ -102,9 +102,18 @@ public slots:
     virtual void reportMode(int index);
     virtual void noteEditor();
 
+    // The product form's tax boxes take the practice's tax names; a box without a name is
+    // disabled (and, with `check`, each box is checked exactly when it has a name).
+    void captionTaxBoxes(bool check);
+
+private slots:
+    void addBreed();
+    void deleteBreed();
+
 private:
     void makeConnections();
     void setUpBreeds();
+    bool submitBreeds();
 
     ZrRichText *viewer = nullptr;
     QSqlTableModel *breeds = nullptr;

@@ -1,0 +1,72 @@
+// The breeds tab: a data table over "breeds". Every edited cell is written at once; a write the
+// database refuses is shown and undone, so nothing half-written stays in the table.
+#include "admin.h"
+
+#include "globals.h"
+#include "prompter.h"
+#include "utility.h"
+
+#include <QHeaderView>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QSqlTableModel>
+
+void Admin::setUpBreeds()
+{
+    breeds = new QSqlTableModel(this);
+    breeds->setTable("breeds");
+    breeds->setEditStrategy(QSqlTableModel::OnManualSubmit);
+    const int description = breeds->fieldIndex("Description");
+    const int alternative = breeds->fieldIndex("Description_A");
+    breeds->setHeaderData(description, Qt::Horizontal, tr("Description"));
+    breeds->setHeaderData(alternative, Qt::Horizontal, tr("Alt Lang"));
+    breeds->setSort(description, Qt::AscendingOrder);
+    ui.table->setModel(breeds);
+    for (int column = 0; column < breeds->columnCount(); ++column)
+        ui.table->setColumnHidden(column, column != description && column != alternative);
+    ui.table->setColumnWidth(alternative, 256);
+    ui.table->horizontalHeader()->setSectionResizeMode(description, QHeaderView::Stretch);
+    ui.table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    ui.table->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(breeds, &QSqlTableModel::dataChanged, this, [this] { submitBreeds(); });
+    breeds->select();
+}
+
+bool Admin::submitBreeds()
+{
+    if (breeds->submitAll())
+        return true;
+    const QSqlError error = breeds->lastError();
+    Prompter::critical(this, tr("Quorel Database Error"),
+                       tr("The breed could not be saved.\n\nDriver: %1\nDatabase: %2")
+                           .arg(error.driverText(), error.databaseText()));
+    breeds->revertAll();
+    breeds->select();
+    return false;
+}
+
+void Admin::addBreed()
+{
+    const int row = breeds->rowCount();
+    breeds->insertRow(row);
+    const QModelIndex cell = breeds->index(row, breeds->fieldIndex("Description"));
+    ui.table->setCurrentIndex(cell);
+    ui.table->edit(cell);
+}
+
+void Admin::deleteBreed()
+{
+    const QModelIndex current = ui.table->currentIndex();
+    if (!current.isValid()) {
+        Prompter::warn(this, tr("Delete Breed"), tr("You must highlight a breed to delete"));
+        return;
+    }
+    const QString name = breeds->data(breeds->index(current.row(), breeds->fieldIndex("Description"))).toString();
+    if (!Prompter::confirm(this, tr("Delete Breed"), tr("Confirm that you will delete the breed '%1'").arg(name))) {
+        Prompter::inform(this, tr("Delete Breed"), tr("Operation cancelled"));
+        return;
+    }
+    breeds->removeRow(current.row());
+    submitBreeds();
+}
