@@ -112,11 +112,24 @@ void Admin::init()
     connect(viewer, &ZrRichText::printAllPages, this, &Admin::tableViewAction);
     connect(ui.buttonOk, &QPushButton::clicked, qApp, &QApplication::quit);
 
+    sizeListColumns();
     reloadData();
     refreshSuppliers();
     reloadAutoProcs();
     ui.DateEdit1->setDate(QDate::currentDate().addMonths(-1));
     ui.DateEdit2->setDate(QDate::currentDate());
+}
+
+void Admin::sizeListColumns()
+{
+    // Names get the room; codes, flags and figures only what they need.
+    ui.list->setColumnWidth(0, 60);
+    ui.list->setColumnWidth(1, 240);
+    ui.list->setColumnWidth(2, 70);
+    ui.perms_list->setColumnWidth(0, 180);
+    ui.supply_list->setColumnWidth(0, 200);
+    ui.auto_list->setColumnWidth(1, 70);
+    ui.auto_list->setColumnWidth(2, 220);
 }
 
 void Admin::captionTaxBoxes(bool check)

@@ -112,6 +112,7 @@ private slots:
 
 private:
     void makeConnections();
+    void sizeListColumns();
     void setUpBreeds();
     bool submitBreeds();
 
