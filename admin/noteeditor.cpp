@@ -1,7 +1,36 @@
-// Not built yet: the slots of this tab do nothing until its step lands.
+// The remarks of the highlighted product, edited in the note editor.
 #include "admin.h"
+
+#include "globals.h"
+#include "noteed.h"
+#include "prompter.h"
+#include "remarksicons.h"
+#include "utility.h"
+
+#include <QSqlQuery>
+#include <QTextEdit>
+#include <memory>
 
 void Admin::noteEditor()
 {
+    QTreeWidgetItem *item = ui.list->currentItem();
+    if (!item)
+        return;
+    const QString code = utils->escapeSQL(item->text(0), false);
+    const QString table = currentCategoryTable();
+    QSqlQuery query;
+    if (!query.exec("SELECT Remarks FROM " + table + " " + "WHERE Code='" + code + "'") && utils->showDBError(query))
+        return;
+    // The remarks are kept as UTF-8; the driver already hands them over decoded.
+    const QString remarks = query.next() ? query.value(0).toString() : QString();
+    auto editor = std::make_unique<NoteEd>(this);
+    editor->textEdit1->setPlainText(remarks);
+    if (Prompter::current()->exec(editor.get()) != QDialog::Accepted)
+        return;
+    const QString text = editor->textEdit1->toPlainText();
+    QSqlQuery update;
+    if (!update.exec("UPDATE " + table + " " + "SET Remarks='" + utils->escapeSQL(text, false) + "' " + "WHERE Code='"
+                     + code + "'"))
+        utils->showDBError(update);
+    ui.pushButton30->setIcon(remarksIcon(text.isEmpty() ? RemarksIcon::Blank : RemarksIcon::Present));
 }
-

@@ -2,6 +2,7 @@
 
 #include "logindialog.h"
 #include "prompter.h"
+#include "traceaudit.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -185,16 +186,14 @@ QString Utility::rot13(const QString &text)
     return out;
 }
 
-double Utility::getStockLevelFromTrace(const QString &code, const QString &table, bool *ok)
+bool Utility::stockFigures(QSqlQuery &query, const QString &code, const QString &table, double *received,
+                           double *dispensed)
 {
-    if (!categories().contains(table)) {
-        if (ok)
-            *ok = false;
-        return 0.0;
-    }
+    if (!categories().contains(table))
+        return false;
     // Received less dispensed: a pending invoice counts its lines once; any other invoice counts
-    // them once per journal entry "I" or "RF" of its number.
-    QSqlQuery query;
+    // them once per journal entry "I" or "RF" of its number. One statement, served by the
+    // indexes on (Category, Code), Invoice(MyNumber) and Journal(MyNumber, Description).
     query.prepare("SELECT "
                   "(SELECT COALESCE(SUM(Quantity),0) FROM StockTraceItem WHERE Category=? AND Code=?), "
                   "(SELECT COALESCE(SUM(ii.Quantity * CASE WHEN inv.Status='P' THEN 1 ELSE "
@@ -206,18 +205,37 @@ double Utility::getStockLevelFromTrace(const QString &code, const QString &table
     query.addBindValue(code);
     query.addBindValue(table);
     query.addBindValue(code);
-    if (!query.exec() || !query.next()) {
+    if (!query.exec() || !query.next())
+        return false;
+    *received = query.value(0).toDouble();
+    *dispensed = query.value(1).toDouble();
+    return true;
+}
+
+double Utility::getStockLevelFromTrace(const QString &code, const QString &table, bool *ok)
+{
+    QSqlQuery query;
+    double received = 0.0;
+    double dispensed = 0.0;
+    if (!stockFigures(query, code, table, &received, &dispensed)) {
         if (ok)
             *ok = false;
         return 0.0;
     }
-    return query.value(0).toDouble() - query.value(1).toDouble();
+    return received - dispensed;
 }
 
 void Utility::stockItemTraceAudit(const QString &code, const QString &table)
 {
-    Q_UNUSED(code);
-    Q_UNUSED(table);
+    QList<StockMovement> movements;
+    QString error;
+    if (!loadStockMovements(code, table, &movements, &error)) {
+        Prompter::critical(QApplication::activeWindow(), tr("Stock Trace"),
+                           tr("The stock trace could not be read:\n%1").arg(error));
+        return;
+    }
+    TraceAuditDialog dialog(code, table, movements, QApplication::activeWindow());
+    Prompter::current()->exec(&dialog);
 }
 
 void Utility::showHelp()

@@ -42,6 +42,10 @@ public:
     // Received less dispensed; `ok` (preset true by the caller) turns false when no level
     // could be computed (unknown table, failed query).
     double getStockLevelFromTrace(const QString &code, const QString &table, bool *ok);
+    // What the product's stock trace received and what its invoices dispensed, run in `query`
+    // (so a caller can show its error). False when the table is no product table or it failed.
+    static bool stockFigures(QSqlQuery &query, const QString &code, const QString &table,
+                             double *received, double *dispensed);
     void stockItemTraceAudit(const QString &code, const QString &table);
 
     void showHelp();
