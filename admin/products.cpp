@@ -9,7 +9,6 @@
 #include "zrlistitem.h"
 
 #include <QSqlQuery>
-#include <QSqlRecord>
 
 using namespace ProductForm;
 
