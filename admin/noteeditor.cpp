@@ -11,6 +11,16 @@
 #include <QTextEdit>
 #include <memory>
 
+namespace {
+// The remarks are stored as UTF-8 bytes. The connection hands text columns over already decoded
+// (its character set is UTF-8 on every engine); bytes, as a binary column gives them, are
+// decoded here, so accented remarks read the same whichever way they were stored.
+QString remarksText(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QByteArray ? QString::fromUtf8(value.toByteArray()) : value.toString();
+}
+} // namespace
+
 void Admin::noteEditor()
 {
     QTreeWidgetItem *item = ui.list->currentItem();
@@ -21,8 +31,7 @@ void Admin::noteEditor()
     QSqlQuery query;
     if (!query.exec("SELECT Remarks FROM " + table + " " + "WHERE Code='" + code + "'") && utils->showDBError(query))
         return;
-    // The remarks are kept as UTF-8; the driver already hands them over decoded.
-    const QString remarks = query.next() ? query.value(0).toString() : QString();
+    const QString remarks = query.next() ? remarksText(query.value(0)) : QString();
     auto editor = std::make_unique<NoteEd>(this);
     editor->textEdit1->setPlainText(remarks);
     if (Prompter::current()->exec(editor.get()) != QDialog::Accepted)

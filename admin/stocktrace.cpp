@@ -17,15 +17,17 @@ enum TraceAnswer { Close = 0, Trace = 1, Adjust = 2 };
 int askAboutFigures(Admin *admin, const QString &code, const QString &description, double received,
                     double dispensed, double onHand, bool mismatch)
 {
-    const QString figures = QString("%1 - %2 \nReceived: %3\nDispensed: %4\nOn Hand: %5")
-                                .arg(code, description, Utility::numStr(received, 2),
-                                     Utility::numStr(dispensed, 2), Utility::numStr(onHand, 2));
+    const QString text = mismatch ? Admin::tr("Stock Level Calculation Mismatch\n%1 - %2 \nReceived: %3\n"
+                                              "Dispensed: %4\nOn Hand: %5")
+                                  : Admin::tr("%1 - %2 \nReceived: %3\nDispensed: %4\nOn Hand: %5");
     QStringList buttons{Admin::tr("Close"), Admin::tr("Trace")};
     if (mismatch)
         buttons << Admin::tr("Adjust");
     return Prompter::current()->message(
         admin, mismatch ? Prompter::Warning : Prompter::Information, Admin::tr("Stock level Calculation"),
-        mismatch ? Admin::tr("Stock Level Calculation Mismatch\n%1").arg(figures) : figures, buttons, 0, 0);
+        text.arg(code, description, Utility::numStr(received, 2), Utility::numStr(dispensed, 2),
+                 Utility::numStr(onHand, 2)),
+        buttons, Close, Close);
 }
 } // namespace
 

@@ -1,38 +1,50 @@
 #include "traceaudit.h"
 
+#include "globals.h"
+#include "prompter.h"
 #include "utility.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QSqlError>
+#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace {
-bool runBound(QSqlQuery &query, const QString &sql, const QString &table, const QString &code, QString *error)
+// MariaDB's collations pad: 'I ' = 'I'. A binary string compares byte for byte, as the other
+// engines compare text.
+QString exact(const QString &column)
+{
+    const bool mysql = QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)
+                           .driverName()
+                           .startsWith(QLatin1String("QMYSQL"));
+    return mysql ? "BINARY " + column : column;
+}
+
+// Runs `sql` with the product table and code bound to its two placeholders.
+bool runBound(QSqlQuery &query, const QString &sql, const QString &table, const QString &code)
 {
     query.prepare(sql);
     query.addBindValue(table);
     query.addBindValue(code);
-    if (query.exec())
-        return true;
-    if (error)
-        *error = query.lastError().text();
-    return false;
+    return query.exec();
 }
 
-bool loadReceived(const QString &code, const QString &table, QList<StockMovement> *movements, QString *error)
+bool loadReceived(const QString &code, const QString &table, QList<StockMovement> *movements)
 {
     QSqlQuery query;
+    // Every trace line counts, with or without its movement's header, as in the stock figures.
     if (!runBound(query,
                   "SELECT st.MyDate, sti.TraceNumber, st.Notes, sti.Quantity FROM StockTraceItem sti "
                   "LEFT JOIN StockTrace st ON st.TraceNumber=sti.TraceNumber "
                   "WHERE sti.Category=? AND sti.Code=? ORDER BY st.MyDate, sti.TraceNumber",
-                  table, code, error))
+                  table, code)) {
+        utils->showDBError(query);
         return false;
+    }
     while (query.next()) {
         StockMovement m;
         m.date = query.value(0).toString();
@@ -45,17 +57,17 @@ bool loadReceived(const QString &code, const QString &table, QList<StockMovement
     return true;
 }
 
-bool loadDispensed(const QString &code, const QString &table, QList<StockMovement> *movements, QString *error)
+bool loadDispensed(const QString &code, const QString &table, QList<StockMovement> *movements)
 {
     QSqlQuery query;
     if (!runBound(query,
-                  "SELECT ii.MyDate, ii.InvoiceNumber, inv.Status, ii.Quantity, "
-                  "CASE WHEN inv.Status='P' THEN 1 ELSE (SELECT COUNT(*) FROM Journal j "
-                  "WHERE j.MyNumber=ii.InvoiceNumber AND j.Description IN ('I','RF')) END "
-                  "FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
-                  "WHERE ii.Category=? AND ii.Code=? ORDER BY ii.MyDate, ii.InvoiceNumber",
-                  table, code, error))
+                  "SELECT inv.MyDate, ii.InvoiceNumber, inv.Status, ii.Quantity, " + StockRule::dispensedCountSql()
+                      + " FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
+                        "WHERE ii.Category=? AND ii.Code=? ORDER BY inv.MyDate, ii.InvoiceNumber",
+                  table, code)) {
+        utils->showDBError(query);
         return false;
+    }
     while (query.next()) {
         StockMovement m;
         m.date = query.value(0).toString();
@@ -76,18 +88,47 @@ QLabel *totalLabel(QWidget *parent, const char *name, const QString &text)
 }
 } // namespace
 
-bool loadStockMovements(const QString &code, const QString &table, QList<StockMovement> *movements, QString *error)
+QString StockRule::dispensedCountSql()
+{
+    return "CASE WHEN " + exact("inv.Status") + "='P' THEN 1 ELSE (SELECT COUNT(*) FROM Journal j "
+           "WHERE j.MyNumber=ii.InvoiceNumber AND " + exact("j.Description") + " IN ('I','RF')) END";
+}
+
+bool StockRule::figures(QSqlQuery &query, const QString &code, const QString &table, double *received,
+                        double *dispensed)
+{
+    if (!Utility::categories().contains(table))
+        return false;
+    // Served by the indexes on (Category, Code), Invoice(MyNumber) and Journal(MyNumber, Description):
+    // one statement per product instead of one journal query per unpaid invoice line.
+    query.prepare("SELECT (SELECT COALESCE(SUM(Quantity),0) FROM StockTraceItem WHERE Category=? AND Code=?), "
+                  "(SELECT COALESCE(SUM(ii.Quantity * " + dispensedCountSql() + "),0) "
+                  "FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
+                  "WHERE ii.Category=? AND ii.Code=?)");
+    for (int i = 0; i < 2; ++i) {
+        query.addBindValue(table);
+        query.addBindValue(code);
+    }
+    if (!query.exec() || !query.next())
+        return false;
+    *received = query.value(0).toDouble();
+    *dispensed = query.value(1).toDouble();
+    return true;
+}
+
+bool loadStockMovements(const QString &code, const QString &table, QList<StockMovement> *movements)
 {
     movements->clear();
     if (!Utility::categories().contains(table)) {
-        if (error)
-            *error = QObject::tr("%1 is not a product table").arg(table);
+        Prompter::warn(nullptr, QObject::tr("Stock Trace"), QObject::tr("%1 is not a product table").arg(table));
         return false;
     }
-    if (!loadReceived(code, table, movements, error) || !loadDispensed(code, table, movements, error))
+    if (!loadReceived(code, table, movements) || !loadDispensed(code, table, movements))
         return false;
     std::stable_sort(movements->begin(), movements->end(), [](const StockMovement &a, const StockMovement &b) {
-        return a.date.left(10) < b.date.left(10) || (a.date.left(10) == b.date.left(10) && a.received && !b.received);
+        const QString dayA = a.date.left(10);
+        const QString dayB = b.date.left(10);
+        return dayA < dayB || (dayA == dayB && a.received && !b.received);
     });
     return true;
 }

@@ -189,27 +189,7 @@ QString Utility::rot13(const QString &text)
 bool Utility::stockFigures(QSqlQuery &query, const QString &code, const QString &table, double *received,
                            double *dispensed)
 {
-    if (!categories().contains(table))
-        return false;
-    // Received less dispensed: a pending invoice counts its lines once; any other invoice counts
-    // them once per journal entry "I" or "RF" of its number. One statement, served by the
-    // indexes on (Category, Code), Invoice(MyNumber) and Journal(MyNumber, Description).
-    query.prepare("SELECT "
-                  "(SELECT COALESCE(SUM(Quantity),0) FROM StockTraceItem WHERE Category=? AND Code=?), "
-                  "(SELECT COALESCE(SUM(ii.Quantity * CASE WHEN inv.Status='P' THEN 1 ELSE "
-                  "(SELECT COUNT(*) FROM Journal j WHERE j.MyNumber=ii.InvoiceNumber "
-                  "AND j.Description IN ('I','RF')) END),0) "
-                  "FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
-                  "WHERE ii.Category=? AND ii.Code=?)");
-    query.addBindValue(table);
-    query.addBindValue(code);
-    query.addBindValue(table);
-    query.addBindValue(code);
-    if (!query.exec() || !query.next())
-        return false;
-    *received = query.value(0).toDouble();
-    *dispensed = query.value(1).toDouble();
-    return true;
+    return StockRule::figures(query, code, table, received, dispensed);
 }
 
 double Utility::getStockLevelFromTrace(const QString &code, const QString &table, bool *ok)
@@ -228,12 +208,8 @@ double Utility::getStockLevelFromTrace(const QString &code, const QString &table
 void Utility::stockItemTraceAudit(const QString &code, const QString &table)
 {
     QList<StockMovement> movements;
-    QString error;
-    if (!loadStockMovements(code, table, &movements, &error)) {
-        Prompter::critical(QApplication::activeWindow(), tr("Stock Trace"),
-                           tr("The stock trace could not be read:\n%1").arg(error));
+    if (!loadStockMovements(code, table, &movements))
         return;
-    }
     TraceAuditDialog dialog(code, table, movements, QApplication::activeWindow());
     Prompter::current()->exec(&dialog);
 }

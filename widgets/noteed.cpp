@@ -2,51 +2,20 @@
 
 #include "prompter.h"
 
-#include <QHBoxLayout>
-#include <QPushButton>
 #include <QShortcut>
-#include <QTextEdit>
-#include <QVBoxLayout>
 
 NoteEd::NoteEd(QWidget *parent)
     : QDialog(parent)
 {
-    setObjectName("NoteEd");
-    setModal(true);
-    auto *layout = new QVBoxLayout(this);
-    layout->setObjectName("NoteEdLayout");
-    textEdit1 = new QTextEdit(this);
-    textEdit1->setObjectName("textEdit1");
-    textEdit1->setAcceptRichText(false);
-    layout->addWidget(textEdit1);
-    auto *buttons = new QHBoxLayout;
-    buttons->setObjectName("Layout1");
-    buttonHelp = new QPushButton(this);
-    buttonHelp->setObjectName("buttonHelp");
-    buttonOk = new QPushButton(this);
-    buttonOk->setObjectName("buttonOk");
-    buttonOk->setDefault(true);
-    buttonCancel = new QPushButton(this);
-    buttonCancel->setObjectName("buttonCancel");
-    buttons->addWidget(buttonHelp);
-    buttons->addStretch();
-    buttons->addWidget(buttonOk);
-    buttons->addWidget(buttonCancel);
-    layout->addLayout(buttons);
-    connect(buttonOk, &QPushButton::clicked, this, &QDialog::accept);
-    connect(buttonCancel, &QPushButton::clicked, this, &QDialog::reject);
+    setupUi(this);
     connect(buttonHelp, &QPushButton::clicked, this, &NoteEd::showHelp);
+    // F1 as well as the button's own Alt+H.
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, &NoteEd::showHelp);
-    languageChange();
-    resize(520, 360);
 }
 
 void NoteEd::languageChange()
 {
-    setWindowTitle(tr("Note Editor"));
-    buttonHelp->setText(tr("&Help"));
-    buttonOk->setText(tr("&OK"));
-    buttonCancel->setText(tr("&Cancel"));
+    retranslateUi(this);
 }
 
 QString NoteEd::helpText()
