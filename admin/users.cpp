@@ -154,6 +154,7 @@ void Admin::newUser()
     if (code.isEmpty())
         return;
     const QString escapedName = utils->escapeSQL(name, false);
+    // An empty commission is written as 0 on every engine: it must not stop the user being created.
     if (!run(QString("INSERT INTO Operators (Operator, id,Initials,Diary,Commission) ") + "VALUES ('" + escapedName
              + "', '" + utils->escapeSQL(code, false) + "', '" + utils->escapeSQL(initials, false) + "', '"
              + flag(ui.checkBox6) + "', '" + numberText(ui.lineEdit45->text()) + "')"))
