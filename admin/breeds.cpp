@@ -12,9 +12,34 @@
 #include <QSqlRecord>
 #include <QSqlTableModel>
 
+#include <functional>
+
+namespace {
+// Writes each edit once the model has taken it in: submitting (or reverting) from inside the
+// model's own dataChanged would change the rows it is still working on.
+class BreedsModel : public QSqlTableModel
+{
+public:
+    BreedsModel(QObject *parent, std::function<bool()> written)
+        : QSqlTableModel(parent), afterEdit(std::move(written))
+    {
+    }
+
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override
+    {
+        if (!QSqlTableModel::setData(index, value, role))
+            return false;
+        return role != Qt::EditRole || afterEdit();
+    }
+
+private:
+    std::function<bool()> afterEdit;
+};
+} // namespace
+
 void Admin::setUpBreeds()
 {
-    breeds = new QSqlTableModel(this);
+    breeds = new BreedsModel(this, [this] { return submitBreeds(); });
     breeds->setTable("breeds");
     breeds->setEditStrategy(QSqlTableModel::OnManualSubmit);
     const int description = breeds->fieldIndex("Description");
@@ -29,7 +54,6 @@ void Admin::setUpBreeds()
     ui.table->horizontalHeader()->setSectionResizeMode(description, QHeaderView::Stretch);
     ui.table->setSelectionBehavior(QAbstractItemView::SelectRows);
     ui.table->setSelectionMode(QAbstractItemView::SingleSelection);
-    connect(breeds, &QSqlTableModel::dataChanged, this, [this] { submitBreeds(); });
     breeds->select();
 }
 
@@ -41,7 +65,7 @@ bool Admin::submitBreeds()
     Prompter::critical(this, tr("Quorel Database Error"),
                        tr("The breed could not be saved.\n\nDriver: %1\nDatabase: %2")
                            .arg(error.driverText(), error.databaseText()));
-    breeds->revertAll();
+    // Reading the table again drops the refused change (revertAll() trips over a refused new row).
     breeds->select();
     return false;
 }
