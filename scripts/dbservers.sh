@@ -1,0 +1,97 @@
+#!/usr/bin/env bash
+# Throwaway MariaDB and PostgreSQL servers for the tests, on 127.0.0.1 with their data under DIR.
+#   dbservers.sh start DIR   starts both, creates the test database and user on each, and writes
+#                            DIR/env with the QUOREL_MARIADB_* and QUOREL_PG_* variables
+#   dbservers.sh stop DIR    stops both by their pid
+set -euo pipefail
+
+cmd=${1:?usage: dbservers.sh start|stop DIR}
+dir=${2:?usage: dbservers.sh start|stop DIR}
+pgbin=$(ls -d /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
+
+free_port() {
+    python3 -c 'import socket; s=socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])'
+}
+
+wait_for() { # what, tries, command...
+    local what=$1 tries=$2; shift 2
+    for ((i = 0; i < tries; i++)); do
+        "$@" >/dev/null 2>&1 && return 0
+        sleep 0.2
+    done
+    echo "dbservers: $what did not answer in time" >&2
+    return 1
+}
+
+start_mariadb() {
+    local d=$dir/maria port
+    port=$(free_port)
+    mkdir -p "$d"
+    mariadb-install-db --no-defaults --datadir="$d/data" --user=root --skip-test-db \
+        --auth-root-authentication-method=normal >"$d/install.log" 2>&1
+    # Durability is of no use to a database that lives for one test run.
+    mariadbd --no-defaults --datadir="$d/data" --socket="$d/sock" --port="$port" \
+        --bind-address=127.0.0.1 --user=root --pid-file="$d/pid" --log-error="$d/err.log" \
+        --innodb-flush-log-at-trx-commit=0 --innodb-doublewrite=0 --innodb-flush-method=nosync \
+        --character-set-server=utf8mb4 --collation-server=utf8mb4_general_ci &
+    wait_for "MariaDB" 150 mariadb-admin --no-defaults --socket="$d/sock" -uroot ping
+    mariadb --no-defaults --socket="$d/sock" -uroot -e "
+        CREATE DATABASE quorel_test CHARACTER SET utf8mb4;
+        CREATE USER 'quorel'@'127.0.0.1' IDENTIFIED BY 'quorel';
+        GRANT ALL ON quorel_test.* TO 'quorel'@'127.0.0.1';"
+    cat >>"$dir/env" <<ENV
+export QUOREL_MARIADB_HOST=127.0.0.1 QUOREL_MARIADB_PORT=$port QUOREL_MARIADB_USER=quorel
+export QUOREL_MARIADB_PASSWORD=quorel QUOREL_MARIADB_DATABASE=quorel_test
+ENV
+}
+
+start_postgres() {
+    local d=$dir/pg port run=""
+    port=$(free_port)
+    mkdir -p "$d"
+    # The server refuses to run as root: it runs as the postgres user when we are root.
+    if [[ $(id -u) -eq 0 ]]; then
+        chmod 755 "$dir"
+        chown postgres "$d"
+        run="runuser -u postgres --"
+    fi
+    $run "$pgbin/initdb" -D "$d/data" -A trust -U postgres -E UTF8 >"$d/initdb.log" 2>&1
+    $run "$pgbin/pg_ctl" -D "$d/data" -l "$d/log" -w -t 30 start \
+        -o "-k $d -p $port -c listen_addresses=127.0.0.1 -c fsync=off -c synchronous_commit=off -c full_page_writes=off" >/dev/null
+    wait_for "PostgreSQL" 150 psql -h 127.0.0.1 -p "$port" -U postgres -c 'SELECT 1'
+    psql -q -h 127.0.0.1 -p "$port" -U postgres \
+        -c "CREATE USER quorel PASSWORD 'quorel'" -c "CREATE DATABASE quorel_test OWNER quorel ENCODING 'UTF8'"
+    cat >>"$dir/env" <<ENV
+export QUOREL_PG_HOST=127.0.0.1 QUOREL_PG_PORT=$port QUOREL_PG_USER=quorel
+export QUOREL_PG_PASSWORD=quorel QUOREL_PG_DATABASE=quorel_test
+ENV
+}
+
+stop_by_pid() { # pidfile
+    [[ -f $1 ]] || return 0
+    local pid
+    pid=$(head -n 1 "$1")
+    kill -TERM "$pid" 2>/dev/null || return 0
+    for ((i = 0; i < 100; i++)); do
+        kill -0 "$pid" 2>/dev/null || return 0
+        sleep 0.1
+    done
+    kill -KILL "$pid" 2>/dev/null || true
+}
+
+case $cmd in
+start)
+    mkdir -p "$dir"
+    : >"$dir/env"
+    start_mariadb
+    start_postgres
+    ;;
+stop)
+    stop_by_pid "$dir/maria/pid"
+    stop_by_pid "$dir/pg/data/postmaster.pid"
+    ;;
+*)
+    echo "usage: dbservers.sh start|stop DIR" >&2
+    exit 2
+    ;;
+esac
