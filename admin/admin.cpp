@@ -113,6 +113,7 @@ void Admin::init()
     connect(ui.buttonOk, &QPushButton::clicked, qApp, &QApplication::quit);
 
     sizeListColumns();
+    classChanged(ui.class_combo->currentIndex()); // the permission list offers the shown class at once
     reloadData();
     refreshSuppliers();
     reloadAutoProcs();
