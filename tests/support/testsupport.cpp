@@ -56,6 +56,25 @@ void configureServer(QSqlDatabase &db, const char *prefix)
     db.setDatabaseName(serverVariable(prefix, "DATABASE"));
 }
 
+// The suites trust the connection to be the engine they were asked for, and a MariaDB session to
+// concatenate with || as the reports do; a connection that is not so would test something else.
+bool sessionIsReady(const QSqlDatabase &db)
+{
+    if (Dialect::connectedEngine() != TestSupport::engine()) {
+        QTest::qFail(qPrintable("connected through " + db.driverName() + ", not " + TestSupport::engineName()),
+                     __FILE__, __LINE__);
+        return false;
+    }
+    if (TestSupport::engine() != Dialect::MySQL)
+        return true;
+    QSqlQuery mode(db);
+    if (mode.exec("SELECT @@SESSION.sql_mode") && mode.next()
+        && mode.value(0).toString().contains(QLatin1String("PIPES_AS_CONCAT")))
+        return true;
+    QTest::qFail("the MariaDB session lacks PIPES_AS_CONCAT in its sql_mode", __FILE__, __LINE__);
+    return false;
+}
+
 // The practice every test starts from: one tax named, the second without a name.
 const char *const sysInfoRow =
     "INSERT INTO SysInfo (ALINE1, ALINE2, ALINE3, ALINE4, ALINE5, ALINE6, ALINE7, InvFooter, InvFooter1, "
@@ -107,7 +126,7 @@ bool initEngine()
     if (!db.open())
         return unreachable(engineName() + ": " + db.lastError().text());
     Dialect::prepareSession(db);
-    return true;
+    return sessionIsReady(db);
 }
 
 bool freshSchema()
