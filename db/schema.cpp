@@ -1,4 +1,5 @@
 #include "schema.h"
+#include "utility.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -66,14 +67,29 @@ bool runAll(QSqlDatabase &db, Dialect::Engine e, const QStringList &sqls, QStrin
     return true;
 }
 
+// A statement of the product-table layout, written out for one of the nine product tables.
+QString productStatement(const QString &sql, const QString &product)
+{
+    static const QString vaccinationOnly = "@Vaccination@";
+    QStringList lines;
+    for (QString line : sql.split('\n')) {
+        if (line.startsWith(vaccinationOnly)) {
+            if (product != "Vaccination")
+                continue;
+            line.remove(0, vaccinationOnly.size());
+        }
+        lines << line;
+    }
+    return lines.join('\n').replace("@Product@", product).replace("@product@", product.toLower());
+}
+
 } // namespace
 
 QStringList tables()
 {
-    return {"SysInfo",   "Goods",          "Hospital",   "Consult",  "Diagnosis",   "Injection",
-            "Lab",       "Medication",     "Proc",       "Vaccination", "StockTrace", "StockTraceItem",
-            "Owner",     "Patient",        "Invoice",    "InvoiceItem", "Journal",  "Operators",
-            "Permissions", "Supply",       "AutoProc",   "AutoProcContents", "breeds"};
+    return QStringList{"SysInfo"} + Utility::categories()
+           + QStringList{"StockTrace", "StockTraceItem", "Owner", "Patient", "Invoice", "InvoiceItem", "Journal",
+                         "Operators", "Permissions", "Supply", "AutoProc", "AutoProcContents", "breeds"};
 }
 
 QStringList statements(Dialect::Engine e)
@@ -84,8 +100,12 @@ QStringList statements(Dialect::Engine e)
     const QStringList parts = readDdl(e).remove(comment).split(end);
     for (const QString &part : parts) {
         const QString sql = part.trimmed();
-        if (!sql.isEmpty())
+        if (sql.contains("@Product@")) {
+            for (const QString &product : Utility::categories())
+                result << productStatement(sql, product);
+        } else if (!sql.isEmpty()) {
             result << sql;
+        }
     }
     return result;
 }

@@ -12,7 +12,8 @@ namespace Schema {
 
 // Every table of the schema, in creation order.
 QStringList tables();
-// The engine's DDL, one statement per entry, comments removed.
+// The engine's DDL, one statement per entry, comments removed, the product-table layout
+// written out for each of the nine product tables.
 QStringList statements(Dialect::Engine e);
 // Runs the DDL on `db`; on failure `error` (may be null) gets the failing statement's error.
 bool create(QSqlDatabase db, Dialect::Engine e, QString *error);

@@ -45,7 +45,10 @@ CREATE TABLE SysInfo (
     Tax2 DOUBLE PRECISION DEFAULT 0
 );
 
-CREATE TABLE Goods (
+-- The nine product tables (Goods, Hospital, Consult, Diagnosis, Injection, Lab, Medication, Proc,
+-- Vaccination) share one layout: each statement naming @Product@ is run once per table, with
+-- @product@ as its name in lower case; a line starting @Vaccination@ belongs to Vaccination only.
+CREATE TABLE @Product@ (
     Code VARCHAR(20),
     Description VARCHAR(100),
     Description_A VARCHAR(100) DEFAULT '',
@@ -65,211 +68,11 @@ CREATE TABLE Goods (
     Supplier VARCHAR(100) DEFAULT '',
     Remarks TEXT,
     Active VARCHAR(1) DEFAULT 'Y'
+@Vaccination@    , DaysToReminder INTEGER DEFAULT 0
 );
 
-CREATE INDEX goods_code ON Goods (Code);
-CREATE INDEX goods_active ON Goods (Active, Description);
-
-CREATE TABLE Hospital (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX hospital_code ON Hospital (Code);
-CREATE INDEX hospital_active ON Hospital (Active, Description);
-
-CREATE TABLE Consult (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX consult_code ON Consult (Code);
-CREATE INDEX consult_active ON Consult (Active, Description);
-
-CREATE TABLE Diagnosis (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX diagnosis_code ON Diagnosis (Code);
-CREATE INDEX diagnosis_active ON Diagnosis (Active, Description);
-
-CREATE TABLE Injection (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX injection_code ON Injection (Code);
-CREATE INDEX injection_active ON Injection (Active, Description);
-
-CREATE TABLE Lab (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX lab_code ON Lab (Code);
-CREATE INDEX lab_active ON Lab (Active, Description);
-
-CREATE TABLE Medication (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX medication_code ON Medication (Code);
-CREATE INDEX medication_active ON Medication (Active, Description);
-
-CREATE TABLE Proc (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
-);
-
-CREATE INDEX proc_code ON Proc (Code);
-CREATE INDEX proc_active ON Proc (Active, Description);
-
-CREATE TABLE Vaccination (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
-    Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
-    Cost DOUBLE PRECISION DEFAULT 0,
-    MarkUp DOUBLE PRECISION DEFAULT 0,
-    Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
-    Quantity DOUBLE PRECISION DEFAULT 0,
-    ReOrder DOUBLE PRECISION DEFAULT 0,
-    ToQuantity DOUBLE PRECISION DEFAULT 0,
-    OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y',
-    DaysToReminder INTEGER DEFAULT 0
-);
-
-CREATE INDEX vaccination_code ON Vaccination (Code);
-CREATE INDEX vaccination_active ON Vaccination (Active, Description);
+CREATE INDEX @product@_code ON @Product@ (Code);
+CREATE INDEX @product@_active ON @Product@ (Active, Description);
 
 CREATE SEQUENCE stocktrace_seq;
 
