@@ -3,6 +3,7 @@
 #include "admin.h"
 #include "globals.h"
 #include "prompter.h"
+#include "rights.h"
 #include "tabsupport.h"
 #include "utility.h"
 #include "zrlistitem.h"
@@ -13,36 +14,6 @@
 using namespace TabSupport;
 
 namespace {
-
-// The class names as they are stored, in the order of class_combo.
-const QStringList &classNames()
-{
-    static const QStringList names{"Dispense", "Utility", "Schedule", "Procedure Schedule",
-                                   "Hospital Schedule", "Stock Schedule", "Stock"};
-    return names;
-}
-
-// "Overide" is the spelling the other programs of the suite look for.
-QStringList dispenseRights(bool taxed)
-{
-    QStringList rights;
-    if (taxed)
-        rights << "Tax Controls" << "Price Overide" << "Discount Overide";
-    return rights << "Goods" << "Hospital" << "Consult" << "Diagnosis" << "Injection" << "Lab"
-                  << "Medication" << "Proc" << "AutoProc" << "Vaccination" << "Remarks" << "Notes";
-}
-
-const QStringList &utilityRights()
-{
-    static const QStringList rights{
-        "Transfer Patient", "Merge Client", "Purge Client", "Purge Patient", "Backup", "Full History",
-        "Vaccination", "Hospital", "Anaesthetic", "Euthanasia", "Medical", "Statement", "Audit", "Journal",
-        "Order Forms", "Input Stock", "Stock Trace", "Drug Report", "Period Performance", "Month End",
-        "Cash Up", "Cash Date", "Debtors", "Statements", "Reminders", "News Letter", "Merge Patients",
-        "Email Msg", "Price Lists", "Barcode Labels", "Specimen", "Label", "Document", "Attachments",
-        "Search Invoice", "Bulk SMS", "Client SMS"};
-    return rights;
-}
 
 QString currentUser(const Admin *admin)
 {
@@ -103,9 +74,9 @@ void Admin::classChanged(int index)
 {
     ui.desc_combo->clear();
     if (index == 0)
-        ui.desc_combo->addItems(dispenseRights(!ui.Tax1Name->text().isEmpty()));
+        ui.desc_combo->addItems(Rights::dispense(!ui.Tax1Name->text().isEmpty()));
     else if (index == 1)
-        ui.desc_combo->addItems(utilityRights());
+        ui.desc_combo->addItems(Rights::utility());
     else if (index >= 2 && index <= 5)
         ui.desc_combo->addItems({"0", "1", "2", "3", "4", "5", "6", "7"});
     else
@@ -131,7 +102,7 @@ bool grantClass(Admin *admin, const QString &escapedName, int index)
 {
     admin->classChanged(index);
     const QString prefix = "INSERT INTO Permissions (Operator, Class, Description) VALUES ('" + escapedName
-                         + "', '" + classNames().at(index) + "', '";
+                         + "', '" + Rights::classNames().at(index) + "', '";
     for (int i = 0; i < admin->ui.desc_combo->count(); ++i)
         if (!run(prefix + utils->escapeSQL(admin->ui.desc_combo->itemText(i), false) + "')"))
             return false;
@@ -159,7 +130,7 @@ void Admin::newUser()
              + "', '" + utils->escapeSQL(code, false) + "', '" + utils->escapeSQL(initials, false) + "', '"
              + flag(ui.checkBox6) + "', '" + numberText(ui.lineEdit45->text()) + "')"))
         return;
-    for (int index = 0; index < classNames().size(); ++index)
+    for (int index = 0; index < Rights::classNames().size(); ++index)
         if (!grantClass(this, escapedName, index))
             return;
     classChanged(0);

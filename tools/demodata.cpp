@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "practicebuilder.h"
+#include "rights.h"
 #include "utility.h"
 
 #include <QSqlError>
@@ -16,18 +17,8 @@ const QStringList productColumns = {"Code", "Description", "Description_A", "Sch
                                     "UnitOfMeasure_A", "Cost", "MarkUp", "Price", "Tax1", "Tax2", "Quantity",
                                     "ReOrder", "ToQuantity", "OnOrder", "OrderDate", "Supplier", "Remarks", "Active"};
 
-const QStringList utilityRights = {
-    "Transfer Patient", "Merge Client", "Purge Client", "Purge Patient", "Backup", "Full History", "Vaccination",
-    "Hospital", "Anaesthetic", "Euthanasia", "Medical", "Statement", "Audit", "Journal", "Order Forms",
-    "Input Stock", "Stock Trace", "Drug Report", "Period Performance", "Month End", "Cash Up", "Cash Date",
-    "Debtors", "Statements", "Reminders", "News Letter", "Merge Patients", "Email Msg", "Price Lists",
-    "Barcode Labels", "Specimen", "Label", "Document", "Attachments", "Search Invoice", "Bulk SMS", "Client SMS"};
-
-const QStringList dispenseRights = {"Tax Controls", "Price Overide", "Discount Overide", "Goods", "Hospital",
-                                    "Consult", "Diagnosis", "Injection", "Lab", "Medication", "Proc", "AutoProc",
-                                    "Vaccination", "Remarks", "Notes"};
-
-const QStringList scheduleClasses = {"Schedule", "Procedure Schedule", "Hospital Schedule", "Stock Schedule"};
+// The schedule classes: a right per schedule level.
+const QStringList scheduleClasses = Rights::classNames().mid(2, 4);
 
 // Drug schedules by a word of the product name; other medicines are schedule 4.
 int scheduleOf(const char *category, const QString &name)
@@ -177,10 +168,11 @@ bool PracticeBuilder::writePermissions(const Staff &s, int level)
 {
     const bool admin = s.name == "admin";
     QList<QPair<QString, QString>> rights;
-    for (const QString &right : dispenseRights) {
+    for (const QString &right : Rights::dispense(true)) {
         if (admin || s.vet || !right.endsWith("Overide"))
             rights << qMakePair(QString("Dispense"), right);
     }
+    const QStringList &utilityRights = Rights::utility();
     for (int i = 0; i < utilityRights.size(); ++i) {
         if (admin || (s.vet && i % 4 != 0) || i % 3 == 0)
             rights << qMakePair(QString("Utility"), utilityRights[i]);
