@@ -4,6 +4,7 @@
 
 #include "globals.h"
 #include "prompter.h"
+#include "tabsupport.h"
 #include "utility.h"
 
 #include <QHeaderView>
@@ -87,10 +88,8 @@ void Admin::deleteBreed()
         return;
     }
     const QString name = breeds->data(breeds->index(current.row(), breeds->fieldIndex("Description"))).toString();
-    if (!Prompter::confirm(this, tr("Delete Breed"), tr("Confirm that you will delete the breed '%1'").arg(name))) {
-        Prompter::inform(this, tr("Delete Breed"), tr("Operation cancelled"));
+    if (!TabSupport::confirmed(this, tr("Delete Breed"), tr("Confirm that you will delete the breed '%1'").arg(name)))
         return;
-    }
     breeds->removeRow(current.row());
     submitBreeds();
 }

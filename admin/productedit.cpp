@@ -5,6 +5,7 @@
 #include "globals.h"
 #include "productform.h"
 #include "prompter.h"
+#include "tabsupport.h"
 #include "utility.h"
 
 #include <QDate>
@@ -12,34 +13,9 @@
 #include <QSqlQuery>
 
 using namespace ProductForm;
+using namespace TabSupport;
 
 namespace {
-
-// Runs a statement; false when it failed and showDBError says to stop.
-bool run(QSqlQuery &query, const QString &sql)
-{
-    return query.exec(sql) || !utils->showDBError(query);
-}
-
-bool run(const QString &sql)
-{
-    QSqlQuery query;
-    return run(query, sql);
-}
-
-QString flag(const QAbstractButton *box)
-{
-    return box->isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
-}
-
-// Every change is confirmed first; anything but "&Yes" is reported as cancelled.
-bool confirmed(Admin *admin, const QString &caption, const QString &text)
-{
-    if (Prompter::confirm(admin, caption, text))
-        return true;
-    Prompter::inform(admin, caption, Admin::tr("Operation cancelled"));
-    return false;
-}
 
 // A product without a supplier upsets reports and orders; services have none.
 bool supplierAccepted(Admin *admin, const QString &caption, const QString &table)
@@ -81,7 +57,7 @@ bool allocateCode(Admin *admin, const QString &table)
 bool codeIsFree(Admin *admin, const QString &table, const QString &code)
 {
     QSqlQuery query;
-    if (!run(query, "SELECT Description FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+    if (!run(query, "SELECT Description FROM " + table + " WHERE Code='" + escaped(code) + "'"))
         return false;
     if (!query.next())
         return true;
@@ -96,12 +72,12 @@ QString insertStatement(Admin *admin, const QString &table)
 {
     const Ui::Admin &ui = admin->ui;
     const QStringList values{
-        sqlText(ui.code_tf->text()), sqlText(ui.description_tf->text()),
-        QString::number(ui.schedule_combo->currentIndex()), sqlText(ui.uom_tf->text()),
-        sqlNumber(ui.sell_tf->text()), sqlNumber(ui.markup_tf->text()), sqlNumber(ui.cost_tf->text()),
-        "0", sqlNumber(ui.level_tf->text()), sqlNumber(ui.toqty_tf->text()), sqlNumber(ui.onorder_tf->text()),
-        sqlText(ui.supplier_combo->currentText()), sqlText(ui.description_A_tf->text()),
-        sqlText(ui.uom_A_tf->text()), flag(ui.Tax1_checkBox), flag(ui.Tax2_checkBox), QString(),
+        escaped(ui.code_tf->text()), escaped(ui.description_tf->text()),
+        QString::number(ui.schedule_combo->currentIndex()), escaped(ui.uom_tf->text()),
+        numberText(ui.sell_tf->text()), numberText(ui.markup_tf->text()), numberText(ui.cost_tf->text()),
+        "0", numberText(ui.level_tf->text()), numberText(ui.toqty_tf->text()), numberText(ui.onorder_tf->text()),
+        escaped(ui.supplier_combo->currentText()), escaped(ui.description_A_tf->text()),
+        escaped(ui.uom_A_tf->text()), flag(ui.Tax1_checkBox), flag(ui.Tax2_checkBox), QString(),
         flag(ui.active_tb)};
     return "INSERT INTO " + table + " (Code,Description,Schedule,UnitOfMeasure,"
            "Price,MarkUp,Cost,Quantity,ReOrder,ToQuantity,OnOrder,"
@@ -112,23 +88,23 @@ QString insertStatement(Admin *admin, const QString &table)
 QString updateStatement(Admin *admin, const QString &table, const QString &oldCode)
 {
     const Ui::Admin &ui = admin->ui;
-    return "UPDATE " + table + " SET Code='" + sqlText(ui.code_tf->text()) + "',"
-         + "Description='" + sqlText(ui.description_tf->text()) + "',"
+    return "UPDATE " + table + " SET Code='" + escaped(ui.code_tf->text()) + "',"
+         + "Description='" + escaped(ui.description_tf->text()) + "',"
          + "Schedule='" + QString::number(ui.schedule_combo->currentIndex()) + "',"
-         + "UnitOfMeasure='" + sqlText(ui.uom_tf->text()) + "',"
-         + "Price='" + sqlNumber(ui.sell_tf->text()) + "',"
-         + "Markup='" + sqlNumber(ui.markup_tf->text()) + "',"
-         + "Cost='" + sqlNumber(ui.cost_tf->text()) + "',"
-         + "ReOrder='" + sqlNumber(ui.level_tf->text()) + "',"
-         + "OnOrder='" + sqlNumber(ui.onorder_tf->text()) + "',"
-         + "ToQuantity='" + sqlNumber(ui.toqty_tf->text()) + "',"
-         + "Supplier='" + sqlText(ui.supplier_combo->currentText()) + "',"
-         + "Description_A='" + sqlText(ui.description_A_tf->text()) + "',"
-         + "UnitOfMeasure_A='" + sqlText(ui.uom_A_tf->text()) + "',"
+         + "UnitOfMeasure='" + escaped(ui.uom_tf->text()) + "',"
+         + "Price='" + numberText(ui.sell_tf->text()) + "',"
+         + "Markup='" + numberText(ui.markup_tf->text()) + "',"
+         + "Cost='" + numberText(ui.cost_tf->text()) + "',"
+         + "ReOrder='" + numberText(ui.level_tf->text()) + "',"
+         + "OnOrder='" + numberText(ui.onorder_tf->text()) + "',"
+         + "ToQuantity='" + numberText(ui.toqty_tf->text()) + "',"
+         + "Supplier='" + escaped(ui.supplier_combo->currentText()) + "',"
+         + "Description_A='" + escaped(ui.description_A_tf->text()) + "',"
+         + "UnitOfMeasure_A='" + escaped(ui.uom_A_tf->text()) + "',"
          + "Tax1='" + flag(ui.Tax1_checkBox) + "',"
          + "Tax2='" + flag(ui.Tax2_checkBox) + "',"
          + "Active='" + flag(ui.active_tb) + "' "
-         + "WHERE Code='" + sqlText(oldCode) + "'";
+         + "WHERE Code='" + escaped(oldCode) + "'";
 }
 
 // DaysToReminder is an integer column: the typed days go in as a whole number, so that neither
@@ -148,22 +124,22 @@ struct ListedProduct {
 bool cascadeChange(Admin *admin, const QString &table, const ListedProduct &old)
 {
     const Ui::Admin &ui = admin->ui;
-    const QString code = sqlText(ui.code_tf->text());
-    const QString description = sqlText(ui.description_tf->text());
-    const QString unit = sqlText(ui.uom_tf->text());
+    const QString code = escaped(ui.code_tf->text());
+    const QString description = escaped(ui.description_tf->text());
+    const QString unit = escaped(ui.uom_tf->text());
     const QString schedule = QString::number(ui.schedule_combo->currentIndex());
-    const QString oldCode = sqlText(old.code);
+    const QString oldCode = escaped(old.code);
     return run("UPDATE AutoProcContents SET Code='" + code + "' WHERE Code='" + oldCode + "' AND "
                + "Category='" + table + "'")
         && run("UPDATE StockTraceItem SET Code='" + code + "'," + "Description='" + description + "',"
                + "Schedule=" + schedule + "," + "UnitOfMeasure='" + unit + "' WHERE Category='" + table
-               + "' AND " + "Code='" + oldCode + "' AND " + "Description='" + sqlText(old.description)
+               + "' AND " + "Code='" + oldCode + "' AND " + "Description='" + escaped(old.description)
                + "' AND " + "Schedule=" + QString::number(old.schedule.toInt()) + " AND "
-               + "UnitOfMeasure='" + sqlText(old.unit) + "'")
+               + "UnitOfMeasure='" + escaped(old.unit) + "'")
         && run("UPDATE InvoiceItem SET Code='" + code + "'," + "Description='" + description + "',"
                + "UnitOfMeasure='" + unit + "' WHERE Category='" + table + "' AND " + "Code='" + oldCode
-               + "' AND " + "Description='" + sqlText(old.description) + "' AND " + "UnitOfMeasure='"
-               + sqlText(old.unit) + "'");
+               + "' AND " + "Description='" + escaped(old.description) + "' AND " + "UnitOfMeasure='"
+               + escaped(old.unit) + "'");
 }
 
 // Reloads the category and selects the row under `code`, when one is given.
@@ -180,13 +156,13 @@ bool traceDeletion(Admin *admin, const QString &table, const QString &code)
 {
     const Ui::Admin &ui = admin->ui;
     QSqlQuery quantityQuery;
-    if (!run(quantityQuery, "SELECT Quantity FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+    if (!run(quantityQuery, "SELECT Quantity FROM " + table + " WHERE Code='" + escaped(code) + "'"))
         return false;
     const double quantity = quantityQuery.next() ? quantityQuery.value(0).toDouble() : 0.0;
     if (!run("INSERT INTO StockTrace (MyDate, SP, Notes, Supplier, InvoiceNumber, Adjustment) VALUES ('"
              + QDate::currentDate().toString("yyyy-MM-dd") + "','Admin','"
-             + sqlText(Admin::tr("Deletion of item from stock.")) + "','"
-             + sqlText(ui.supplier_combo->currentText()) + "','','Y')"))
+             + escaped(Admin::tr("Deletion of item from stock.")) + "','"
+             + escaped(ui.supplier_combo->currentText()) + "','','Y')"))
         return false;
     // Read on the default connection right after the INSERT: the key is the session's own.
     QSqlQuery keyQuery;
@@ -197,7 +173,7 @@ bool traceDeletion(Admin *admin, const QString &table, const QString &code)
     return run("INSERT INTO StockTraceItem (TraceNumber, Category,Quantity, UnitOfMeasure, Description, "
                "Schedule, Batch) VALUES ('"
                + keyQuery.value(0).toString() + "','" + table + "','" + QString::number(quantity, 'g', 6)
-               + "','" + sqlText(ui.uom_tf->text()) + "','" + sqlText(ui.description_tf->text()) + "','"
+               + "','" + escaped(ui.uom_tf->text()) + "','" + escaped(ui.description_tf->text()) + "','"
                + QString::number(ui.schedule_combo->currentIndex()) + "','')");
 }
 
@@ -220,7 +196,7 @@ void Admin::newEntry()
         return;
     if (dtrShown(this)
         && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "' WHERE Code='"
-                + sqlText(code) + "'"))
+                + escaped(code) + "'"))
         return;
     reloadAndSelect(this, code);
 }
@@ -257,7 +233,7 @@ void Admin::modifyProduct()
         return;
     if (dtrShown(this)
         && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "'WHERE Code='"
-                + sqlText(code) + "'"))
+                + escaped(code) + "'"))
         return;
     if (!cascadeChange(this, table, old))
         return;
@@ -281,7 +257,7 @@ void Admin::deleteEntry()
                        .arg(ui.description_tf->text(), code)))
         return;
     const QString table = currentCategoryTable();
-    if (!run("DELETE FROM " + table + " WHERE Code='" + sqlText(code) + "'"))
+    if (!run("DELETE FROM " + table + " WHERE Code='" + escaped(code) + "'"))
         return;
     if (!isServiceCategory(table) && !traceDeletion(this, table, code))
         return;

@@ -58,16 +58,6 @@ bool refillSuppliers(Admin *admin, const QString &sql)
     return true;
 }
 
-QString sqlNumber(const QString &typed)
-{
-    return QString::number(Utility::strNum(typed, nullptr), 'g', 6);
-}
-
-QString sqlText(const QString &typed)
-{
-    return utils->escapeSQL(typed, false);
-}
-
 bool isServiceCategory(const QString &table)
 {
     return table == QLatin1String("Consult") || table == QLatin1String("Diagnosis")

@@ -27,13 +27,6 @@ void setFieldBackground(QLineEdit *field, const QColor &colour);
 // failed statement is to stop the caller.
 bool refillSuppliers(Admin *admin, const QString &sql);
 
-// A number typed into the form, as it goes into SQL: through strNum, so that an empty or
-// mistyped field is 0 and never '' (which strict MariaDB and PostgreSQL refuse), with six
-// significant digits.
-QString sqlNumber(const QString &typed);
-// The typed text escaped for a quoted SQL literal.
-QString sqlText(const QString &typed);
-
 // "Consult", "Diagnosis" and "Proc" have no supplier and no stock.
 bool isServiceCategory(const QString &table);
 

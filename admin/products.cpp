@@ -5,6 +5,7 @@
 #include "productform.h"
 #include "prompter.h"
 #include "remarksicons.h"
+#include "tabsupport.h"
 #include "utility.h"
 #include "zrlistitem.h"
 
@@ -55,7 +56,7 @@ QString productQuery(Admin *admin, const QString &code)
                   "Remarks,Active";
     if (dtrShown(admin))
         sql += ", DaysToReminder";
-    return sql + " From " + admin->currentCategoryTable() + " where Code = '" + sqlText(code) + "'";
+    return sql + " From " + admin->currentCategoryTable() + " where Code = '" + TabSupport::escaped(code) + "'";
 }
 
 // Fills the fields in this order on purpose: cost and mark-up are connected to updateSell, so

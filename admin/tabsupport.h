@@ -8,7 +8,7 @@ class QAbstractButton;
 class QSqlQuery;
 class QWidget;
 
-// Helpers shared by the users, suppliers and automated procedure tabs.
+// Helpers shared by the tabs that write to the database.
 namespace TabSupport {
 
 // Runs a statement; false when it failed and showDBError says to stop.
