@@ -1,6 +1,7 @@
 #include "startup.h"
 
 #include "admin.h"
+#include "connection.h"
 #include "dialect.h"
 #include "globals.h"
 #include "prompter.h"
@@ -63,35 +64,20 @@ void installTranslator(QApplication &app, const QString &file)
     app.installTranslator(translator);
 }
 
-QString driverSetting()
-{
-    return settings->value("/Global/DBDriver", "QMYSQL3").toString();
-}
-
 // Steps 9 to 11: the default connection, opened. False: the failure has been shown.
 bool openDatabase()
 {
-    QSqlDatabase db = QSqlDatabase::addDatabase(Dialect::qtDriverName(driverSetting()));
+    const Connection::Parameters parameters = Connection::read(*settings);
+    QSqlDatabase db = Connection::add(parameters);
     if (!db.isValid()) {
         Prompter::critical(nullptr, QCoreApplication::translate("Startup", "Quorel"),
                            QCoreApplication::translate("Startup", "Could not load the database driver %1")
-                               .arg(driverSetting()));
+                               .arg(parameters.driver));
         return false;
     }
-    db.setConnectOptions(Dialect::connectOptions(db.driverName()));
-    db.setHostName(settings->value("/Global/DBServer", "localhost").toString());
-    db.setDatabaseName(settings->value("/Global/DBName", "Quorel").toString());
-    db.setUserName(settings->value("/Global/DBUser", "Quorel").toString());
-    db.setPassword(settings->value("/Global/DBPassword", "vmo").toString());
-    // A missing entry must read as "not read" (not as the default 0), so that the driver keeps its
-    // own port.
-    bool ok = false;
-    const int port = settings->value("/Global/DBPort").toInt(&ok);
-    if (ok)
-        db.setPort(port);
     if (!db.open()) {
         Prompter::critical(nullptr, "Quorel Open Database",
-                           "Driver: " + driverSetting() + "\n" + db.lastError().driverText() + " "
+                           "Driver: " + parameters.driver + "\n" + db.lastError().driverText() + " "
                                + db.lastError().databaseText());
         return false;
     }

@@ -3,6 +3,7 @@
 // selecting the busiest product with "Analyse Stock On Select" on, and its stock level trace
 // (answered "Close"). Each step runs several times; the table gives the median.
 #include "admin.h"
+#include "connection.h"
 #include "dialect.h"
 #include "globals.h"
 #include "prompter.h"
@@ -79,17 +80,7 @@ QSettings *openSettings(const QCommandLineParser &parser, const QTemporaryDir &d
 // Opened as the program opens it at start-up.
 bool openDatabase(QString *error)
 {
-    const QString driver = settings->value("/Global/DBDriver", "QMYSQL3").toString();
-    QSqlDatabase db = QSqlDatabase::addDatabase(Dialect::qtDriverName(driver));
-    db.setConnectOptions(Dialect::connectOptions(db.driverName()));
-    db.setHostName(settings->value("/Global/DBServer", "localhost").toString());
-    db.setDatabaseName(settings->value("/Global/DBName", "Quorel").toString());
-    db.setUserName(settings->value("/Global/DBUser", "Quorel").toString());
-    db.setPassword(settings->value("/Global/DBPassword", "vmo").toString());
-    bool ok = false;
-    const int port = settings->value("/Global/DBPort").toInt(&ok);
-    if (ok)
-        db.setPort(port);
+    QSqlDatabase db = Connection::add(Connection::read(*settings));
     if (!db.open()) {
         *error = db.lastError().text();
         return false;

@@ -1,5 +1,6 @@
 // quorel-db: sets up a Quorel database. The connection comes from the suite's settings (the same
 // keys the program reads), each one overridable on the command line.
+#include "connection.h"
 #include "demodata.h"
 #include "dialect.h"
 #include "globals.h"
@@ -32,27 +33,27 @@ int failed(const QString &text)
     return 1;
 }
 
-QString setting(const QCommandLineParser &parser, const QString &option, const QString &key, const QString &fallback)
+// The suite's settings, each one overridden by its option when given.
+Connection::Parameters parameters(const QCommandLineParser &parser)
 {
-    return parser.isSet(option) ? parser.value(option) : settings->value(key, fallback).toString();
+    Connection::Parameters p = Connection::read(*settings);
+    const QList<QPair<QString, QString *>> options{{"driver", &p.driver}, {"host", &p.host},
+                                                   {"database", &p.database}, {"user", &p.user},
+                                                   {"password", &p.password}, {"port", &p.port}};
+    for (const auto &option : options)
+        if (parser.isSet(option.first))
+            *option.second = parser.value(option.first);
+    return p;
 }
 
 bool openDatabase(const QCommandLineParser &parser, QString *error)
 {
-    const QString driver = setting(parser, "driver", "/Global/DBDriver", "QMYSQL3");
-    QSqlDatabase db = QSqlDatabase::addDatabase(Dialect::qtDriverName(driver));
+    const Connection::Parameters p = parameters(parser);
+    QSqlDatabase db = Connection::add(p);
     if (!db.isValid()) {
-        *error = QString("Could not load the database driver %1").arg(driver);
+        *error = QString("Could not load the database driver %1").arg(p.driver);
         return false;
     }
-    db.setHostName(setting(parser, "host", "/Global/DBServer", "localhost"));
-    db.setDatabaseName(setting(parser, "database", "/Global/DBName", "Quorel"));
-    db.setUserName(setting(parser, "user", "/Global/DBUser", "Quorel"));
-    db.setPassword(setting(parser, "password", "/Global/DBPassword", "vmo"));
-    bool ok = false;
-    const int port = parser.isSet("port") ? parser.value("port").toInt(&ok) : settings->value("/Global/DBPort", 0).toInt(&ok);
-    if (ok && (parser.isSet("port") || settings->contains("/Global/DBPort")))
-        db.setPort(port);
     if (db.open())
         return true;
     *error = db.lastError().text();
