@@ -17,47 +17,27 @@ QList<QLineEdit *> practiceFields(Ui::Admin &ui)
             ui.Tax1, ui.Tax1Name, ui.Tax2, ui.Tax2Name, ui.HandOver, ui.label2LineEdit, ui.label3LineEdit};
 }
 
-struct Assignment {
-    const char *column;
-    QLineEdit *field;
-    bool escaped;
-};
-
-QString assignments(const QList<Assignment> &list)
+// The UPDATE of either language, its columns in the order the suite has always written them. The
+// rates have one column for both languages. The main language's values go in as typed (a quote in
+// a text breaks the statement, as it always has); the alternative language's texts are escaped,
+// but its two labels are not.
+QString updateStatement(Ui::Admin &ui, bool alternative)
 {
+    const QList<QPair<QString, QLineEdit *>> columns{
+        {"ALINE1", ui.ALINE1}, {"ALINE2", ui.ALINE2}, {"ALINE3", ui.ALINE3}, {"ALINE4", ui.ALINE4},
+        {"ALINE5", ui.ALINE5}, {"ALINE6", ui.ALINE6}, {"ALINE7", ui.ALINE7}, {"InvFooter", ui.InvFooter},
+        {"InvFooter1", ui.InvFooter1}, {"RecFooter", ui.RecFooter}, {"StatementFooter1", ui.StatementFooter1},
+        {"StatementFooter2", ui.StatementFooter2}, {"StatementFooter3", ui.StatementFooter3},
+        {"HandOverFooter", ui.HandOver}, {"LABEL2", ui.label2LineEdit}, {"LABEL3", ui.label3LineEdit},
+        {"Tax1", ui.Tax1}, {"Tax1Name", ui.Tax1Name}, {"Tax2", ui.Tax2}, {"Tax2Name", ui.Tax2Name}};
     QStringList parts;
-    for (const Assignment &a : list)
-        parts << QString::fromLatin1(a.column) + "='"
-                     + (a.escaped ? utils->escapeSQL(a.field->text(), false) : a.field->text()) + "'";
-    return parts.join(',');
-}
-
-// The alternative language: texts escaped, but the two labels and the rates as typed.
-QString alternativeUpdate(Ui::Admin &ui)
-{
-    return "UPDATE SysInfo SET " + assignments({
-        {"ALINE1_A", ui.ALINE1, true}, {"ALINE2_A", ui.ALINE2, true}, {"ALINE3_A", ui.ALINE3, true},
-        {"ALINE4_A", ui.ALINE4, true}, {"ALINE5_A", ui.ALINE5, true}, {"ALINE6_A", ui.ALINE6, true},
-        {"ALINE7_A", ui.ALINE7, true}, {"InvFooter_A", ui.InvFooter, true}, {"InvFooter1_A", ui.InvFooter1, true},
-        {"RecFooter_A", ui.RecFooter, true}, {"StatementFooter1_A", ui.StatementFooter1, true},
-        {"StatementFooter2_A", ui.StatementFooter2, true}, {"StatementFooter3_A", ui.StatementFooter3, true},
-        {"HandOverFooter_A", ui.HandOver, true}, {"LABEL2_A", ui.label2LineEdit, false},
-        {"LABEL3_A", ui.label3LineEdit, false}, {"Tax1", ui.Tax1, false}, {"Tax1Name_A", ui.Tax1Name, true},
-        {"Tax2", ui.Tax2, false}, {"Tax2Name_A", ui.Tax2Name, true}});
-}
-
-// The main language: every value as typed.
-QString mainUpdate(Ui::Admin &ui)
-{
-    return "UPDATE SysInfo SET " + assignments({
-        {"ALINE1", ui.ALINE1, false}, {"ALINE2", ui.ALINE2, false}, {"ALINE3", ui.ALINE3, false},
-        {"ALINE4", ui.ALINE4, false}, {"ALINE5", ui.ALINE5, false}, {"ALINE6", ui.ALINE6, false},
-        {"ALINE7", ui.ALINE7, false}, {"InvFooter", ui.InvFooter, false}, {"InvFooter1", ui.InvFooter1, false},
-        {"RecFooter", ui.RecFooter, false}, {"StatementFooter1", ui.StatementFooter1, false},
-        {"StatementFooter2", ui.StatementFooter2, false}, {"StatementFooter3", ui.StatementFooter3, false},
-        {"HandOverFooter", ui.HandOver, false}, {"LABEL2", ui.label2LineEdit, false},
-        {"LABEL3", ui.label3LineEdit, false}, {"Tax1", ui.Tax1, false}, {"Tax1Name", ui.Tax1Name, false},
-        {"Tax2", ui.Tax2, false}, {"Tax2Name", ui.Tax2Name, false}});
+    for (const auto &[column, field] : columns) {
+        const bool rate = column == "Tax1" || column == "Tax2";
+        const bool escaped = alternative && !rate && !column.startsWith("LABEL");
+        parts << column + (alternative && !rate ? "_A" : "") + "='"
+                     + (escaped ? utils->escapeSQL(field->text(), false) : field->text()) + "'";
+    }
+    return "UPDATE SysInfo SET " + parts.join(',');
 }
 } // namespace
 
@@ -87,13 +67,9 @@ void Admin::PushButton4_clicked()
         Prompter::inform(this, tr("Update System Information"), tr("Operation cancelled"));
         return;
     }
-    QString sql;
-    if (ui.alt_lang_tb->isChecked()) {
-        sql = alternativeUpdate(ui);
-    } else {
-        sql = mainUpdate(ui);
+    const QString sql = updateStatement(ui, ui.alt_lang_tb->isChecked());
+    if (!ui.alt_lang_tb->isChecked())
         captionTaxBoxes(false);
-    }
     QSqlQuery query;
     if (!query.exec(sql) && utils->showDBError(query))
         return;
