@@ -33,51 +33,48 @@ bool runBound(QSqlQuery &query, const QString &sql, const QString &table, const 
     return query.exec();
 }
 
-bool loadReceived(const QString &code, const QString &table, QList<StockMovement> *movements)
+// The movements of one kind, from a statement whose columns are date, reference, detail and
+// quantity (and, for dispensed lines, the count).
+bool loadMovements(bool received, const QString &sql, const QString &code, const QString &table,
+                   QList<StockMovement> *movements)
 {
     QSqlQuery query;
-    // Every trace line counts, with or without its movement's header, as in the stock figures.
-    if (!runBound(query,
-                  "SELECT st.MyDate, sti.TraceNumber, st.Notes, sti.Quantity FROM StockTraceItem sti "
-                  "LEFT JOIN StockTrace st ON st.TraceNumber=sti.TraceNumber "
-                  "WHERE sti.Category=? AND sti.Code=? ORDER BY st.MyDate, sti.TraceNumber",
-                  table, code)) {
+    if (!runBound(query, sql, table, code)) {
         utils->showDBError(query);
         return false;
     }
     while (query.next()) {
         StockMovement m;
         m.date = query.value(0).toString();
-        m.received = true;
+        m.received = received;
         m.reference = query.value(1).toString();
         m.detail = query.value(2).toString();
         m.quantity = query.value(3).toDouble();
+        if (!received)
+            m.count = query.value(4).toInt();
         movements->append(m);
     }
     return true;
 }
 
+// Every trace line counts, with or without its movement's header, as in the stock figures.
+bool loadReceived(const QString &code, const QString &table, QList<StockMovement> *movements)
+{
+    return loadMovements(true,
+                         "SELECT st.MyDate, sti.TraceNumber, st.Notes, sti.Quantity FROM StockTraceItem sti "
+                         "LEFT JOIN StockTrace st ON st.TraceNumber=sti.TraceNumber "
+                         "WHERE sti.Category=? AND sti.Code=? ORDER BY st.MyDate, sti.TraceNumber",
+                         code, table, movements);
+}
+
 bool loadDispensed(const QString &code, const QString &table, QList<StockMovement> *movements)
 {
-    QSqlQuery query;
-    if (!runBound(query,
-                  "SELECT inv.MyDate, ii.InvoiceNumber, inv.Status, ii.Quantity, " + StockRule::dispensedCountSql()
-                      + " FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
-                        "WHERE ii.Category=? AND ii.Code=? ORDER BY inv.MyDate, ii.InvoiceNumber",
-                  table, code)) {
-        utils->showDBError(query);
-        return false;
-    }
-    while (query.next()) {
-        StockMovement m;
-        m.date = query.value(0).toString();
-        m.reference = query.value(1).toString();
-        m.detail = query.value(2).toString();
-        m.quantity = query.value(3).toDouble();
-        m.count = query.value(4).toInt();
-        movements->append(m);
-    }
-    return true;
+    return loadMovements(false,
+                         "SELECT inv.MyDate, ii.InvoiceNumber, inv.Status, ii.Quantity, "
+                             + StockRule::dispensedCountSql()
+                             + " FROM InvoiceItem ii JOIN Invoice inv ON inv.MyNumber=ii.InvoiceNumber "
+                               "WHERE ii.Category=? AND ii.Code=? ORDER BY inv.MyDate, ii.InvoiceNumber",
+                         code, table, movements);
 }
 
 QLabel *totalLabel(QWidget *parent, const char *name, const QString &text)
