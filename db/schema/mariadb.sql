@@ -148,7 +148,9 @@ CREATE TABLE InvoiceItem (
     Quantity DOUBLE DEFAULT 0,
     Price DOUBLE DEFAULT 0,
     UnitOfMeasure VARCHAR(30) DEFAULT '',
-    KEY invoiceitem_product (Category, Code, MyDate),
+    -- A product's lines by date for the reports; with the invoice and quantity in the index, the
+    -- stock figures of a product are read from the index alone.
+    KEY invoiceitem_product (Category, Code, MyDate, InvoiceNumber, Quantity),
     KEY invoiceitem_invoice (InvoiceNumber),
     KEY invoiceitem_date (MyDate, Category),
     KEY invoiceitem_vet (Vet, MyDate),

@@ -146,6 +146,9 @@ CREATE TABLE Invoice (
 CREATE INDEX invoice_status ON Invoice (Status);
 CREATE INDEX invoice_date ON Invoice (MyDate);
 CREATE INDEX invoice_account ON Invoice (AccountNumber);
+-- The status by invoice number, so that the stock figures read it from the index alone: PostgreSQL
+-- otherwise visits the table for every invoice line of the product.
+CREATE INDEX invoice_number_status ON Invoice (MyNumber, Status);
 
 CREATE TABLE InvoiceItem (
     InvoiceNumber INTEGER,
@@ -160,7 +163,9 @@ CREATE TABLE InvoiceItem (
     UnitOfMeasure VARCHAR(30) DEFAULT ''
 );
 
-CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate);
+-- A product's lines by date for the reports; with the invoice and quantity in the index, the stock
+-- figures of a product are read from the index alone.
+CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate, InvoiceNumber, Quantity);
 CREATE INDEX invoiceitem_invoice ON InvoiceItem (InvoiceNumber);
 CREATE INDEX invoiceitem_date ON InvoiceItem (MyDate, Category);
 CREATE INDEX invoiceitem_vet ON InvoiceItem (Vet, MyDate);

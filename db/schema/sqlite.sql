@@ -155,7 +155,9 @@ CREATE TABLE InvoiceItem (
     UnitOfMeasure VARCHAR(30) DEFAULT ''
 );
 
-CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate);
+-- A product's lines by date for the reports; with the invoice and quantity in the index, the stock
+-- figures of a product are read from the index alone.
+CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate, InvoiceNumber, Quantity);
 CREATE INDEX invoiceitem_invoice ON InvoiceItem (InvoiceNumber);
 CREATE INDEX invoiceitem_date ON InvoiceItem (MyDate, Category);
 CREATE INDEX invoiceitem_vet ON InvoiceItem (Vet, MyDate);
