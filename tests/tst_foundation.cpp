@@ -1,0 +1,439 @@
+// What the program stands on, on the live engine: the suite library (SQL escaping, numbers, tax,
+// ROT13, validators, list rows, the practice data, database errors, the login), the rules chosen by
+// the driver setting, what the statements need of each engine's schema, and quorel-db's practices.
+#include "demodata.h"
+#include "dialect.h"
+#include "globals.h"
+#include "logindialog.h"
+#include "schema.h"
+#include "testsupport.h"
+#include "utility.h"
+#include "validators.h"
+#include "zrlistitem.h"
+
+#include <QSettings>
+#include <QSqlError>
+#include <QSqlRecord>
+#include <QSqlTableModel>
+#include <QTreeWidget>
+#include <QtTest>
+#include <utility>
+
+using TestSupport::exec;
+using TestSupport::rows;
+using TestSupport::value;
+
+namespace {
+const QString driverKey = "/Global/DBDriver";
+const QStringList titleParts{"'  '", "Title", "' '", "Initials"};
+const QString movement = "INSERT INTO StockTrace (MyDate, SP, Notes, Supplier, InvoiceNumber, Adjustment) "
+                         "VALUES ('2026-03-01','Admin','%1','','','Y')";
+
+QString insertProduct(const QString &table, const QString &code, const QString &description)
+{
+    return "INSERT INTO " + table + " (Code,Description,Schedule,UnitOfMeasure,Price,MarkUp,Cost,Quantity,ReOrder,"
+           "ToQuantity,OnOrder,Supplier,Description_A,UnitOfMeasure_A,Tax1,Tax2,Remarks,Active) VALUES ('" + code + "','"
+           + description + "','4','Tablet','11.50','1.5','6.67','0','5','15','0','Afrivet','','Tablet','Y','N','','Y')";
+}
+
+// Answers the next login dialog with "id/code" ("-": cancels it); `seen` gets what it said.
+void answerLogin(const QString &login, QString *seen)
+{
+    TestSupport::prompter()->answerDialog([=](QDialog *dialog) {
+        auto *box = qobject_cast<LoginDialog *>(dialog);
+        *seen = box->message();
+        box->setLoginId(login.section('/', 0, 0));
+        box->setCode(login.section('/', 1));
+        return int(login == QLatin1String("-") ? QDialog::Rejected : QDialog::Accepted);
+    });
+}
+
+// A generated practice in place of the test's one.
+bool writePractice(const Shape &shape)
+{
+    QString error;
+    if (exec("DELETE FROM SysInfo") && writePractice(QSqlDatabase::database(), TestSupport::engine(), shape, &error))
+        return true;
+    qWarning("%s", qPrintable(error));
+    return false;
+}
+} // namespace
+
+class FoundationTest : public QObject
+{
+    Q_OBJECT
+    QString engineSetting; // what the harness wrote, restored after every case
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(TestSupport::initEngine());
+        engineSetting = settings->value(driverKey).toString();
+    }
+    void init() { QVERIFY(TestSupport::freshSchema()); }
+    void cleanup()
+    {
+        settings->setValue(driverKey, engineSetting);
+        TestSupport::cleanup();
+    }
+    void cleanupTestCase() { TestSupport::finish(); }
+
+    void escapedTextIsStoredAndFoundAsTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("stored");
+        for (const QString text : {"O'Brien's", "x'); DROP TABLE Supply; --", "C:\\vet\\new", "ends in \\", "\\'",
+                                   "\\\\''\\", "100% _x_", "Müller Éloïse 🐶", "line 1\nline 2\r\n\tend"})
+            QTest::addRow("%s", qPrintable(text)) << text << text;
+        // No engine keeps a NUL inside a text value: it is dropped, the same everywhere.
+        QTest::newRow("NUL") << QString("a" + QString(QChar(0)) + "b'c") << "ab'c";
+    }
+    // Into an INSERT and a WHERE as the program builds them, and back unchanged.
+    void escapedTextIsStoredAndFoundAsTyped()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, stored);
+        const QString literal = utils->escapeSQL(typed, false);
+        QVERIFY(exec("INSERT INTO Supply (Company, PostalAddr) VALUES ('Acme', '" + literal + "')"));
+        QCOMPARE(rows("SELECT PostalAddr FROM Supply WHERE PostalAddr='" + literal + "'"), QList<QStringList>{{stored}});
+    }
+
+    // Ties round half away from zero on the value as written, whatever its binary form: 1.005 is
+    // stored just below, and so is the half cent of 2.01 x 0.5.
+    void numbersAndTaxAreRoundedAsWritten()
+    {
+        for (const auto &[number, decimals, text] : std::initializer_list<std::tuple<double, int, const char *>>{
+                 {1.005, 2, "1.01"}, {-1.005, 2, "-1.01"}, {1.15 * 1.5, 2, "1.73"}, {0.1 + 0.2, 2, "0.30"},
+                 {1.00499, 2, "1.00"}, {-0.004, 2, "0.00"}, {-2.5, 0, "-3"}, {1.0000005, 6, "1.000001"}})
+            QCOMPARE(Utility::numStr(number, decimals), QString(text));
+        for (const auto &[amount, rate, tax] : std::initializer_list<std::tuple<double, double, double>>{
+                 {9.99, 0.15, 1.50}, {10.01, 0.14, 1.40}, {2.01, 0.5, 1.01}, {4.10, 0.25, 1.03}, {-2.01, 0.5, -1.01}})
+            QCOMPARE(Utility::calcTax(amount, rate), tax);
+        // A comma groups thousands or makes no number at all (0 here).
+        for (const auto &[text, number] : std::initializer_list<std::pair<const char *, double>>{
+                 {".5", 0.5}, {" 1 234.5 ", 1234.5}, {"1,234,567.8", 1234567.8}, {"12,5", 0}, {"", 0}, {"12abc", 0}, {"inf", 0}}) {
+            bool ok = number == 0;
+            QCOMPARE(Utility::strNum(text, &ok), number);
+            QCOMPARE(ok, number != 0);
+        }
+        QCOMPARE(Utility::rot13("NOPQRSTUVWXYZABCDEFGHIJKLM nopqrstuvwxyzabcdefghijklm"),
+                 QString("ABCDEFGHIJKLMNOPQRSTUVWXYZ abcdefghijklmnopqrstuvwxyz"));
+        QCOMPARE(Utility::rot13("van der Merwe-O'Neil 3 @[`{ Müller 🐶"), QString("ina qre Zrejr-B'Arvy 3 @[`{ Züyyre 🐶"));
+    }
+
+    void validatorsOfTheEntryForms()
+    {
+        const auto ok = QValidator::Acceptable, partly = QValidator::Intermediate, bad = QValidator::Invalid;
+        MoneyValidator cost(nullptr, 3, "cost");
+        DecimalValidator markup(9999.0, 0.0, 6, nullptr, "markup"), percentage(100.0, 0.0, 4, nullptr, "percentage");
+        LimitValidator unit(nullptr, "unit", 10, false), description(nullptr, "description", 38, true);
+        for (const auto &[validator, input, state] :
+             std::initializer_list<std::tuple<QValidator *, QString, QValidator::State>>{
+                 {&cost, "12.345", ok}, {&cost, "12.3456", bad}, {&cost, "12.", ok}, {&cost, ".", partly},
+                 {&cost, "", partly}, {&cost, "-1", bad}, {&cost, "1,5", bad}, {&markup, "9999", ok},
+                 {&markup, "9999.000001", bad}, {&markup, "1.1234567", bad}, {&markup, "-1", bad}, {&markup, "1e3", bad},
+                 {&percentage, "100.0001", bad}, {&percentage, "55.5555", ok}, {&unit, "abcdefghijk", bad},
+                 {&unit, " ml", ok}, {&description, QString(38, 'd'), ok}, {&description, QString(39, 'd'), bad},
+                 {&description, " Bandage", bad}, {&description, "Crepe bandage ", ok}}) {
+            QString text = input;
+            int pos = text.size();
+            QVERIFY2(validator->validate(text, pos) == state, qPrintable(validator->objectName() + " '" + input + "'"));
+        }
+    }
+
+    void listRowsKeepTheirOrderAndLooks()
+    {
+        QTreeWidget list;
+        auto *first = new ZrListItem(&list);
+        first->setText(0, "zebra");
+        QTreeWidgetItem *last = first;
+        for (const char *name : {"apple", "mango"})
+            (last = new ZrListItem(&list, last))->setText(0, name);
+        (new ZrListItem(&list, first))->setText(0, "kiwi"); // right after the first row
+        QStringList order;
+        QList<QVariantList> looks;
+        for (int i = 0; i < list.topLevelItemCount(); ++i) {
+            auto *row = static_cast<ZrListItem *>(list.topLevelItem(i));
+            order << row->text(0);
+            row->setAltVisual(2);
+            row->setAltVisual(i % 3); // the first and last rows are marked, then set back
+            looks << QVariantList{row->data(0, Qt::ForegroundRole), row->data(0, Qt::BackgroundRole),
+                                  row->data(0, Qt::FontRole)};
+        }
+        QCOMPARE(order, QStringList({"zebra", "kiwi", "apple", "mango"}));
+        QVERIFY(looks[0] != looks[1] && looks[0] != looks[2] && looks[1] != looks[2]);
+        QCOMPARE(looks[3], looks[0]);
+    }
+
+    void initClassReadsAndReloadsThePractice()
+    {
+        QCOMPARE(QVariantList({utils->getTax1Name(), utils->getTax1(), utils->getTax2()}), QVariantList({"VAT", 0.15, 0.0}));
+        QVERIFY(exec("UPDATE SysInfo SET Tax1=0.14, Tax1Name='BTW', Tax2=0.025, Tax2Name='Levy'"));
+        QVERIFY(utils->initClass(true));
+        QCOMPARE(QVariantList({utils->getTax1Name(), utils->getTax1(), utils->getTax2Name(), utils->getTax2()}),
+                 QVariantList({"BTW", 0.14, "Levy", 0.025}));
+        QVERIFY(TestSupport::prompter()->calls.isEmpty());
+        for (const QString statement : {"DELETE FROM SysInfo", "DROP TABLE SysInfo"}) { // each is said, naming the table
+            QVERIFY(exec(statement));
+            QVERIFY(!Utility("Admin").initClass(false));
+            QCOMPARE(TestSupport::prompter()->last().icon, int(Prompter::Critical));
+            QVERIFY2(TestSupport::prompter()->last().text.contains("SysInfo"), qPrintable(statement));
+        }
+    }
+
+    void showDBErrorShowsTheErrorAndStops()
+    {
+        QSqlQuery query;
+        QVERIFY(!query.exec("SELECT NoSuchColumn FROM Supply"));
+        QVERIFY(utils->showDBError(query));
+        const QString shown = TestSupport::prompter()->last().text;
+        QCOMPARE(TestSupport::prompter()->last().icon, int(Prompter::Critical));
+        QVERIFY2(shown.contains(query.lastError().databaseText()) && shown.contains("SELECT NoSuchColumn FROM Supply"),
+                 qPrintable(shown));
+    }
+
+    // Attempts in turn: the dialog after a wrong one says so, and a new helper starts afresh.
+    void loginChecksIdAndCodeExactly()
+    {
+        QVERIFY(exec("INSERT INTO Operators (Operator, id) VALUES ('admin', '" + utils->escapeSQL("Se'cret\\", false)
+                     + "'), ('bob', 'bob')"));
+        const QString wrong = "The login id or code is not correct. Try again.";
+        QString seen;
+        for (const auto &[login, result, said] : std::initializer_list<std::tuple<QString, int, QString>>{
+                 {"admin/Se'cret\\", 0, ""}, {"admin/bob", 1, ""}, {"admin/SE'CRET\\", 1, wrong},
+                 {"admin/Se'cret\\ ", 1, wrong}, {"Admin/Se'cret\\", 1, wrong}, {"/", 1, wrong}, {"bob/bob", 0, wrong},
+                 {"bob/bob", 0, ""}, {"-", 2, ""}, {"bob/x", 1, ""}}) {
+            answerLogin(login, &seen);
+            QCOMPARE(utils->validateLoginId(), result);
+            QCOMPARE(seen, said);
+            if (result == 0)
+                QCOMPARE(utils->getLogin(), login.section('/', 0, 0));
+        }
+        answerLogin("bob/bob", &seen);
+        QCOMPARE(Utility("Admin").validateLoginId(), 0);
+        QCOMPARE(seen, QString());
+        QCOMPARE(TestSupport::prompter()->calls.size(), 11); // the dialogs, no message box
+    }
+
+    // Anything but the exact texts takes the PostgreSQL rules, Qt 6's own "QMYSQL" included.
+    void dialectFollowsTheSettingsExactText()
+    {
+        const QString function = "CONCAT('  ',Title,' ',Initials)", pipes = "'  '||Title||' '||Initials";
+        const QStringList keyQueries{"SELECT LAST_INSERT_ID()", "SELECT LAST_INSERT_ROWID()",
+                                     "SELECT LAST_VALUE FROM stocktrace_seq"};
+        for (const auto &[setting, engine, qtDriver] : std::initializer_list<std::tuple<QVariant, Dialect::Engine, QString>>{
+                 {QVariant(), Dialect::MySQL, "QMYSQL"}, {"QMYSQL3", Dialect::MySQL, "QMYSQL"},
+                 {"QSQLITE", Dialect::SQLite, "QSQLITE"}, {"QPSQL7", Dialect::PostgreSQL, "QPSQL"},
+                 {"QMYSQL", Dialect::PostgreSQL, "QMYSQL"}, {"qmysql3", Dialect::PostgreSQL, "qmysql3"}}) {
+            if (setting.isValid())
+                settings->setValue(driverKey, setting);
+            else
+                settings->remove(driverKey);
+            QCOMPARE(Dialect::engine(), engine);
+            QCOMPARE(Dialect::concat(titleParts), engine == Dialect::MySQL ? function : pipes);
+            QCOMPARE(Dialect::lastTraceNumberQuery(), keyQueries[engine]);
+            QCOMPARE(Dialect::qtDriverName(Dialect::driverSetting()), qtDriver);
+        }
+        QSettings *kept = std::exchange(settings, nullptr); // no settings store at all: MySQL
+        const QString concat = Dialect::concat(titleParts);
+        settings = kept;
+        QCOMPARE(concat, function);
+    }
+
+    // The settings this engine may carry concatenate on it; a MariaDB session gains || whatever
+    // sql_mode it starts with, and keeps that mode.
+    void concatenationWorksOnTheEngine()
+    {
+        QVERIFY(exec("INSERT INTO Owner (AccountNumber, Title, Initials, Surname) VALUES (7, 'Dr', 'J.K.', 'Fzvgu')"));
+        const QStringList forEngine[] = {{"QMYSQL3", "QMYSQL"}, {"QSQLITE"}, {"QPSQL7", "QPSQL"}};
+        for (const QString &setting : forEngine[TestSupport::engine()]) {
+            settings->setValue(driverKey, setting);
+            QCOMPARE(rows("SELECT Surname," + Dialect::concat(titleParts) + " FROM Owner"),
+                     (QList<QStringList>{{"Fzvgu", "  Dr J.K."}}));
+        }
+        if (TestSupport::engine() != Dialect::MySQL)
+            return;
+        const QString original = value("SELECT @@SESSION.sql_mode").toString();
+        QSqlDatabase db = QSqlDatabase::database();
+        for (const QString &mode : QStringList{"", "STRICT_TRANS_TABLES", original}) {
+            QVERIFY(exec("SET SESSION sql_mode='" + mode + "'"));
+            Dialect::prepareSession(db);
+            QCOMPARE(value("SELECT 'a'||'b'").toString(), QString("ab"));
+            QVERIFY(value("SELECT @@SESSION.sql_mode").toString().contains(mode));
+        }
+    }
+
+    // The key read back by the setting's rule is the movement just written, numbered from 1 on a
+    // fresh schema, with a product deleted in between as a deletion does.
+    void lastTraceNumberIsTheNewMovement()
+    {
+        for (int expected = 1; expected <= 3; ++expected) {
+            QVERIFY(exec(insertProduct("Goods", "1", "Lead")) && exec("DELETE FROM Goods WHERE Code='1'"));
+            QVERIFY(exec(movement.arg("Deletion of item from stock.")));
+            QCOMPARE(value(Dialect::lastTraceNumberQuery()).toInt(), expected);
+        }
+    }
+
+    // Written by the program's own inserts, which leave the keys (and Charge) to the database.
+    void generatedKeysCountFromOne()
+    {
+        for (const auto &[insert, keys] : std::initializer_list<std::pair<QString, QString>>{
+                 {movement, "SELECT TraceNumber FROM StockTrace ORDER BY Notes"},
+                 {"INSERT INTO Permissions (Operator, Class, Description) VALUES ('Sarah', 'Utility', '%1')",
+                  "SELECT keynum FROM Permissions ORDER BY Description"},
+                 {"INSERT INTO  Supply (Company, Contact, Email, Tel, Fax, Cell, PostalAddr, PhysicalAddr, Lab) "
+                  "values ('%1','','','','','','','','N')", "SELECT keynum FROM Supply ORDER BY Company"},
+                 {"INSERT INTO  AutoProc (Description) VALUES ('%1')", "SELECT Code FROM AutoProc ORDER BY Description"},
+                 {"INSERT into AutoProcContents (Quantity, Category, Code, ProcId) VALUES ('1', 'Goods', '%1', '1')",
+                  "SELECT id FROM AutoProcContents ORDER BY Code"},
+                 {"INSERT INTO breeds (Description, Description_A) VALUES ('%1', '')",
+                  "SELECT keynum FROM breeds ORDER BY Description"}}) {
+            for (const char *tag : {"a", "b", "c"})
+                QVERIFY(exec(insert.arg(tag)));
+            QCOMPARE(rows(keys), (QList<QStringList>{{"1"}, {"2"}, {"3"}}));
+        }
+        QCOMPARE(value("SELECT Charge FROM AutoProcContents WHERE Code='a'").toString(), QString("Y"));
+    }
+
+    // The modify form writes MarkUp as "Markup"; only Vaccination has DaysToReminder, set by a
+    // statement without a blank before WHERE.
+    void productTablesTakeTheFormsStatements()
+    {
+        for (const QString &table : Utility::categories()) {
+            QVERIFY(exec(insertProduct(table, "12", "Meloxicam 5mg/ml")));
+            QVERIFY(exec("UPDATE " + table + " SET Code='12',Description='Meloxicam 5mg/ml',Schedule='3',"
+                         "Price='20.70',Markup='1.800000',Cost='10.00',Active='Y' WHERE Code='12'"));
+            QCOMPARE(value("SELECT MarkUp*Schedule FROM " + table).toDouble(), 1.8 * 3); // both written
+            QSqlQuery columns; // as a query sees them: QPSQL's record(table) does not fold the name's case
+            QVERIFY(columns.exec("SELECT * FROM " + table + " WHERE 1=0"));
+            QCOMPARE(columns.record().contains("DaysToReminder"), table == QLatin1String("Vaccination"));
+        }
+        QVERIFY(exec("UPDATE Vaccination SET DaysToReminder='1095'WHERE Code='12'"));
+        QCOMPARE(value("SELECT DaysToReminder FROM Vaccination").toInt(), 1095);
+    }
+
+    // Numbers written as quoted text compare as numbers; text compares exactly, case and accents.
+    void literalsCompareAsTheProgramWritesThem()
+    {
+        const QString name = "Bêre koel — én 🐾";
+        QVERIFY(exec("INSERT into AutoProcContents (Quantity, Category, Code, ProcId) VALUES ('2', 'Goods', '5', '4')"));
+        QVERIFY(exec("INSERT INTO Owner (AccountNumber, Surname) VALUES (42, 'Obgun')"));
+        QVERIFY(exec("INSERT INTO Invoice (MyNumber, AccountNumber, PetNumber, MyDate, Status) VALUES (10001, 42, 1, '2026-03-02', 'C')"));
+        QVERIFY(exec("INSERT INTO InvoiceItem (InvoiceNumber, Category, Code, Quantity) VALUES (10001, 'Goods', '5', 1)"));
+        QVERIFY(exec(insertProduct("Goods", "1", name)));
+        for (const auto &[where, count] : std::initializer_list<std::pair<QString, int>>{
+                 {"AutoProcContents WHERE ProcId=4 AND Quantity='2.00' AND Code='5'", 1},
+                 {"AutoProcContents WHERE Quantity='2.50'", 0},
+                 {"InvoiceItem,Invoice WHERE Category='Goods' AND Code='5'AND Invoice.Mynumber=InvoiceNumber", 1},
+                 {"Owner WHERE AccountNumber='42'", 1}, {"Goods WHERE Description='" + name + "'", 1},
+                 {"Goods WHERE Description='" + name.toUpper() + "'", 0}, {"Goods WHERE Description='Bere koel — en 🐾'", 0}})
+            QVERIFY2(value("SELECT COUNT(*) FROM " + where).toInt() == count, qPrintable(where));
+        QCOMPARE(value("SELECT Description FROM Goods").toString(), name);
+    }
+
+    // The breeds tab's table model leaves new rows' keys to the database and finds edited rows again.
+    void breedsTakeRowsFromATableModel()
+    {
+        QSqlTableModel model;
+        model.setTable("breeds");
+        model.setEditStrategy(QSqlTableModel::OnManualSubmit);
+        QVERIFY(model.select() && model.insertRows(0, 1));
+        QVERIFY(model.setData(model.index(0, model.fieldIndex("Description")), "Boerboel"));
+        QVERIFY2(model.submitAll(), qPrintable(model.lastError().text()));
+        QVERIFY(model.select() && model.setData(model.index(0, model.fieldIndex("Description_A")), "Boerboel (SA)"));
+        QVERIFY2(model.submitAll(), qPrintable(model.lastError().text()));
+        QCOMPARE(rows("SELECT keynum, Description, Description_A FROM breeds"),
+                 (QList<QStringList>{{"1", "Boerboel", "Boerboel (SA)"}}));
+    }
+
+    void dropAllTwiceLeavesNothingAndCreateMakesEveryTable()
+    {
+        QSqlDatabase db = QSqlDatabase::database();
+        const bool pg = TestSupport::engine() == Dialect::PostgreSQL;
+        auto present = [&db, pg] { // the tables, and on PostgreSQL how many stocktrace_seq there are
+            QStringList found;
+            for (const QString &table : Schema::tables())
+                if (db.tables().contains(table, Qt::CaseInsensitive))
+                    found << table;
+            return pg ? found << value("SELECT COUNT(*) FROM pg_class WHERE relname='stocktrace_seq'").toString() : found;
+        };
+        QString error;
+        QVERIFY2(Schema::dropAll(db, TestSupport::engine(), &error) && Schema::dropAll(db, TestSupport::engine(), &error),
+                 qPrintable(error));
+        QCOMPARE(present(), pg ? QStringList{"0"} : QStringList{});
+        QVERIFY2(Schema::create(db, TestSupport::engine(), &error), qPrintable(error));
+        QCOMPARE(present(), Schema::tables() + (pg ? QStringList{"1"} : QStringList{}));
+    }
+
+    // quorel-db's demo practice holds what the program's features count on finding in it.
+    void demoPracticeIsConsistent()
+    {
+        QVERIFY(writePractice(Shape::demo()));
+        QVERIFY(utils->initClass(true));
+        QCOMPARE(QVariantList({utils->getTax1Name(), utils->getTax1(), utils->getTax2Name()}), QVariantList({"VAT", 0.15, ""}));
+        QStringList wrongStock, productOfLine;
+        for (const QString &table : Utility::categories()) {
+            productOfLine << "SELECT 1 FROM " + table + " p WHERE i.Category='" + table + "' AND p.Code=i.Code";
+            for (const QStringList &row : rows("SELECT Code, Quantity FROM " + table)) {
+                bool ok = true;
+                if (Utility::numStr(utils->getStockLevelFromTrace(row[0], table, &ok), 2) != Utility::numStr(row[1].toDouble(), 2) || !ok)
+                    wrongStock << table + " " + row[0];
+            }
+        }
+        QCOMPARE(wrongStock.size(), Shape::demo().wrongStock);
+        for (const QString &orphans : QStringList{"InvoiceItem WHERE Vet NOT IN (SELECT Initials FROM Operators)",
+                                       "InvoiceItem WHERE InvoiceNumber NOT IN (SELECT MyNumber FROM Invoice)",
+                                       "InvoiceItem i WHERE NOT EXISTS (" + productOfLine.join(" UNION ALL ") + ")",
+                                       "InvoiceItem WHERE Petnumber NOT IN (SELECT PetNumber FROM Patient)",
+                                       "Patient WHERE AccountNumber NOT IN (SELECT AccountNumber FROM Owner)",
+                                       "Patient WHERE Breed NOT IN (SELECT Description FROM breeds)",
+                                       "Invoice, Owner WHERE Invoice.AccountNumber=Owner.AccountNumber AND Invoice.MyDate < Owner.Created",
+                                       "StockTraceItem WHERE TraceNumber NOT IN (SELECT TraceNumber FROM StockTrace)",
+                                       "Medication WHERE Supplier NOT IN (SELECT Company FROM Supply)",
+                                       "AutoProcContents WHERE ProcId NOT IN (SELECT Code FROM AutoProc)",
+                                       "Operators WHERE Operator NOT IN (SELECT Operator FROM Permissions WHERE Class='Dispense')"})
+            QVERIFY2(value("SELECT COUNT(*) FROM " + orphans).toInt() == 0, qPrintable(orphans));
+        QCOMPARE(rows("SELECT DISTINCT Description FROM Journal ORDER BY Description"),
+                 (QList<QStringList>{{"I"}, {"Q"}, {"R"}, {"RF"}, {"VR"}}));
+        for (const QString some : {"Invoice WHERE Status='P'", "Owner WHERE BadDebt='Y'", "AutoProcContents WHERE Charge='N'",
+                                   "Operators WHERE Operator='admin' AND id='admin'", "Supply WHERE Lab='Y'"})
+            QVERIFY2(value("SELECT COUNT(*) FROM " + some).toInt() > 0, qPrintable(some));
+        // Invoices run up to the last few days (a quiet Sunday may have none).
+        const QString lastInvoice = value("SELECT MAX(MyDate) FROM Invoice").toString();
+        QVERIFY(lastInvoice <= QDate::currentDate().toString("yyyy-MM-dd"));
+        QVERIFY(lastInvoice >= QDate::currentDate().addDays(-7).toString("yyyy-MM-dd"));
+        // The program's own inserts still get fresh keys after the generated rows.
+        const int traces = value("SELECT MAX(TraceNumber) FROM StockTrace").toInt();
+        const int procs = value("SELECT MAX(Code) FROM AutoProc").toInt();
+        QVERIFY(exec(movement.arg("Count")));
+        QCOMPARE(value(Dialect::lastTraceNumberQuery()).toInt(), traces + 1);
+        QVERIFY(exec("INSERT INTO  AutoProc (Description) VALUES ('Kitten First Visit')"));
+        QCOMPARE(value("SELECT Code FROM AutoProc WHERE Description='Kitten First Visit'").toInt(), procs + 1);
+    }
+
+    void demoPracticeIsTheSameEveryRun()
+    {
+        const QString digest = "SELECT COUNT(*), SUM(Quantity), SUM(Price), MIN(MyDate) FROM InvoiceItem";
+        QVERIFY(writePractice(Shape::demo()));
+        const QList<QStringList> first = rows(digest);
+        QVERIFY(TestSupport::freshSchema() && writePractice(Shape::demo()));
+        QCOMPARE(rows(digest), first);
+    }
+
+    // The benchmark's one busy product is a stocked Medication with a trace of its own.
+    void benchmarkHasOneBusiestProduct()
+    {
+        QVERIFY(writePractice(Shape::bench(1)));
+        const int lines = value("SELECT COUNT(*) FROM InvoiceItem").toInt();
+        QVERIFY2(lines > 9000 && lines < 11000, qPrintable(QString::number(lines)));
+        const QList<QStringList> top =
+            rows("SELECT Category, Code, COUNT(*) FROM InvoiceItem GROUP BY Category, Code ORDER BY COUNT(*) DESC");
+        QVERIFY(top.size() > 1 && top[0][2].toInt() > top[1][2].toInt());
+        QCOMPARE(top[0].mid(0, 2), (QStringList{"Medication", "1"}));
+        QVERIFY(value("SELECT ReOrder FROM Medication WHERE Code='1'").toDouble() >= 0);
+        QVERIFY(value("SELECT COUNT(*) FROM StockTraceItem WHERE Category='Medication' AND Code='1'").toInt() > 1);
+    }
+};
+
+QTEST_MAIN(FoundationTest)
+#include "tst_foundation.moc"
