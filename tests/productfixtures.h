@@ -1,7 +1,7 @@
 #ifndef QUOREL_TESTS_PRODUCTFIXTURES_H
 #define QUOREL_TESTS_PRODUCTFIXTURES_H
 
-// Products and the dispense tab, for the suites of the product list, pricing and editing.
+// Products and the dispense tab, for the suites that work on the product list and its form.
 #include "admin.h"
 #include "testsupport.h"
 
@@ -14,74 +14,40 @@
 namespace ProductFixtures {
 
 struct Product {
-    QString code;
-    QString description;
-    QString active = "Y";
-    double cost = 10.0;
-    double markup = 1.5;
-    double price = 17.25; // 10 x 1.5 plus VAT at 0.15
+    QString code, description, active = "Y";
+    double cost = 10.0, markup = 1.5, price = 17.25; // 10 x 1.5 plus VAT at 0.15
     double quantity = 0.0;
     int schedule = 0;
-    QString unit = "each";
-    QString supplier;
-    QString tax1 = "Y";
-    QString tax2 = "N";
-    QString remarks;
-    double reorder = 2.0;
-    double toQuantity = 10.0;
-    double onOrder = 0.0;
-    QString descriptionA;
-    QString unitA;
+    QString unit = "each", supplier{}, tax1 = "Y", tax2 = "N", remarks{};
+    double reorder = 2.0, toQuantity = 10.0, onOrder = 0.0;
+    QString descriptionA{}, unitA{};
     int daysToReminder = -1; // Vaccination only; -1 leaves the column out
 };
+
+inline Product product(const QString &code, const QString &description, const QString &active = "Y")
+{
+    return Product{code, description, active};
+}
 
 // Written with bound values, independently of the statements under test.
 inline bool insertProduct(const QString &table, const Product &p)
 {
-    QString columns = "Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,Supplier,"
-                      "Tax1,Tax2,Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate";
-    QString marks = "?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?";
-    if (p.daysToReminder >= 0) {
-        columns += ",DaysToReminder";
-        marks += ",?";
-    }
+    const bool dtr = p.daysToReminder >= 0;
     QSqlQuery query;
-    query.prepare("INSERT INTO " + table + " (" + columns + ") VALUES (" + marks + ")");
-    for (const QVariant &v : {QVariant(p.code), QVariant(p.description), QVariant(p.active), QVariant(p.cost),
-                              QVariant(p.markup), QVariant(p.price), QVariant(p.quantity), QVariant(p.schedule),
-                              QVariant(p.unit), QVariant(p.supplier), QVariant(p.tax1), QVariant(p.tax2),
-                              QVariant(p.remarks), QVariant(p.reorder), QVariant(p.toQuantity),
-                              QVariant(p.onOrder), QVariant(p.descriptionA), QVariant(p.unitA),
-                              QVariant(QString("2026-01-15"))})
+    query.prepare("INSERT INTO " + table + " (Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,"
+                  "UnitOfMeasure,Supplier,Tax1,Tax2,Remarks,ReOrder,ToQuantity,OnOrder,Description_A,"
+                  "UnitOfMeasure_A,OrderDate" + QString(dtr ? ",DaysToReminder" : "") + ") VALUES (?"
+                  + QString(",?").repeated(dtr ? 19 : 18) + ")");
+    for (const QVariant &v : QVariantList{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity,
+                                          p.schedule, p.unit, p.supplier, p.tax1, p.tax2, p.remarks, p.reorder,
+                                          p.toQuantity, p.onOrder, p.descriptionA, p.unitA, "2026-01-15"})
         query.addBindValue(v);
-    if (p.daysToReminder >= 0)
+    if (dtr)
         query.addBindValue(p.daysToReminder);
-    if (!query.exec()) {
-        qWarning() << "insertProduct:" << query.lastError().text();
-        return false;
-    }
-    return true;
-}
-
-inline Product product(const QString &code, const QString &description, const QString &active = "Y")
-{
-    Product p;
-    p.code = code;
-    p.description = description;
-    p.active = active;
-    return p;
-}
-
-inline bool insertSupplier(const QString &company)
-{
-    QSqlQuery query;
-    query.prepare("INSERT INTO Supply (Company) VALUES (?)");
-    query.addBindValue(company);
-    if (!query.exec()) {
-        qWarning() << "insertSupplier:" << query.lastError().text();
-        return false;
-    }
-    return true;
+    if (query.exec())
+        return true;
+    qWarning() << "insertProduct:" << query.lastError().text();
+    return false;
 }
 
 // Shows the category as a choice in category_combo would.
@@ -94,21 +60,17 @@ inline void showCategory(Admin *admin, const QString &table)
 
 inline QTreeWidgetItem *listRow(Admin *admin, const QString &code)
 {
-    QTreeWidget *list = admin->ui.list;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        if (list->topLevelItem(i)->text(0) == code)
-            return list->topLevelItem(i);
-    return nullptr;
+    const QList<QTreeWidgetItem *> found = admin->ui.list->findItems(code, Qt::MatchExactly, 0);
+    return found.isEmpty() ? nullptr : found.first();
 }
 
 // Highlights a row as a click does; the list's selection signal shows it in the form.
 inline bool selectRow(Admin *admin, const QString &code)
 {
     QTreeWidgetItem *row = listRow(admin, code);
-    if (!row)
-        return false;
-    admin->ui.list->setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect);
-    return true;
+    if (row)
+        admin->ui.list->setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect);
+    return row != nullptr;
 }
 
 inline QStringList listColumn(Admin *admin, int column)
@@ -119,20 +81,9 @@ inline QStringList listColumn(Admin *admin, int column)
     return texts;
 }
 
-inline QString currentCode(Admin *admin)
-{
-    QTreeWidgetItem *current = admin->ui.list->currentItem();
-    return current && current->isSelected() ? current->text(0) : QString();
-}
-
 inline QColor baseColour(const QWidget *w)
 {
     return w->palette().color(QPalette::Active, QPalette::Base);
-}
-
-inline QColor titleColour(Admin *admin)
-{
-    return admin->ui.TextLabel8->palette().color(QPalette::Active, QPalette::Window);
 }
 
 } // namespace ProductFixtures
