@@ -53,7 +53,7 @@ private:
     std::unique_ptr<TestSupport::ScriptedPrompter> prompter;
     QStringList transcript; // each login dialog's message and each message box, in order
     QStringList shown;      // the main window's name, caption and tabs, once its loop ran
-    Settings live; // the engine's test database
+    Settings live;          // the engine's test database
 
     int run(const Settings &keys, QStringList logins, int loopExit = -1);
 };
@@ -75,10 +75,7 @@ void StartupTest::initTestCase()
                                                     "0.15 AS Tax1, '' AS Tax2Name, 0 AS Tax2"));
     }
     QSqlDatabase::removeDatabase("file");
-    QSqlDatabase::removeDatabase(QSqlDatabase::defaultConnection);
-    TestSupport::cleanup();
-    delete settings; // start-up makes its own
-    settings = nullptr;
+    cleanup(); // start-up makes its own settings, connection and helper
 }
 
 // What a run leaves to process exit, removed so that the next case starts as a new process would.
@@ -110,8 +107,8 @@ int StartupTest::run(const Settings &keys, QStringList logins, int loopExit)
     for (const QString &login : logins << "-") {
         prompter->answerDialog([this, login](QDialog *dialog) {
             auto *box = qobject_cast<LoginDialog *>(dialog);
-            transcript << "login: " + (box ? box->message() : QString("?"));
-            if (!box || login == QLatin1String("-"))
+            transcript << "login: " + box->message();
+            if (login == QLatin1String("-"))
                 return int(QDialog::Rejected);
             box->setLoginId(login.section('/', 0, 0));
             box->setCode(login.section('/', 1));
