@@ -26,28 +26,25 @@ struct Product {
 
 inline Product product(const QString &code, const QString &description, const QString &active = "Y")
 {
-    return Product{code, description, active};
+    return {code, description, active};
 }
 
 // Written with bound values, independently of the statements under test.
 inline bool insertProduct(const QString &table, const Product &p)
 {
-    const bool dtr = p.daysToReminder >= 0;
+    QVariantList values{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity, p.schedule, p.unit,
+                        p.supplier, p.tax1, p.tax2, p.remarks, p.reorder, p.toQuantity, p.onOrder, p.descriptionA,
+                        p.unitA, "2026-01-15", p.daysToReminder};
     QSqlQuery query;
-    query.prepare("INSERT INTO " + table + " (Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,"
-                  "UnitOfMeasure,Supplier,Tax1,Tax2,Remarks,ReOrder,ToQuantity,OnOrder,Description_A,"
-                  "UnitOfMeasure_A,OrderDate" + QString(dtr ? ",DaysToReminder" : "") + ") VALUES (?"
-                  + QString(",?").repeated(dtr ? 19 : 18) + ")");
-    for (const QVariant &v : QVariantList{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity,
-                                          p.schedule, p.unit, p.supplier, p.tax1, p.tax2, p.remarks, p.reorder,
-                                          p.toQuantity, p.onOrder, p.descriptionA, p.unitA, "2026-01-15"})
+    query.prepare("INSERT INTO " + table + " (Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,"
+                  "Supplier,Tax1,Tax2,Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate"
+                  + QString(p.daysToReminder < 0 ? ") VALUES (?" : ",DaysToReminder) VALUES (?,?")
+                  + QString(",?").repeated(18) + ")");
+    for (const QVariant &v : values.mid(0, p.daysToReminder < 0 ? 19 : 20))
         query.addBindValue(v);
-    if (dtr)
-        query.addBindValue(p.daysToReminder);
-    if (query.exec())
-        return true;
-    qWarning() << "insertProduct:" << query.lastError().text();
-    return false;
+    if (!query.exec())
+        qWarning() << "insertProduct:" << query.lastError().text();
+    return query.isActive();
 }
 
 // Shows the category as a choice in category_combo would.
@@ -81,10 +78,7 @@ inline QStringList listColumn(Admin *admin, int column)
     return texts;
 }
 
-inline QColor baseColour(const QWidget *w)
-{
-    return w->palette().color(QPalette::Active, QPalette::Base);
-}
+inline QColor baseColour(const QWidget *w) { return w->palette().color(QPalette::Active, QPalette::Base); }
 
 } // namespace ProductFixtures
 
