@@ -288,9 +288,17 @@ private slots:
         QString error;
         QVERIFY(exec("DELETE FROM SysInfo")); // the practice brings its own
         QVERIFY2(writePractice(QSqlDatabase::database(), TestSupport::engine(), Shape::demo(), &error), qPrintable(error));
-        QStringList productOfLine;
-        for (const QString &table : Utility::categories())
+        QStringList productOfLine, wrongStock;
+        for (const QString &table : Utility::categories()) {
             productOfLine << "SELECT 1 FROM " + table + " p WHERE i.Category='" + table + "' AND p.Code=i.Code";
+            for (const QStringList &row : rows("SELECT Code, Quantity FROM " + table)) { // stored against the trace
+                bool ok = true;
+                const double level = utils->getStockLevelFromTrace(row[0], table, &ok);
+                if (!ok || Utility::numStr(level, 2) != Utility::numStr(row[1].toDouble(), 2))
+                    wrongStock << table + " " + row[0];
+            }
+        }
+        QCOMPARE(wrongStock.size(), Shape::demo().wrongStock);
         for (const QString &orphans : QStringList{"InvoiceItem WHERE Vet NOT IN (SELECT Initials FROM Operators)",
                  "InvoiceItem WHERE InvoiceNumber NOT IN (SELECT MyNumber FROM Invoice)",
                  "InvoiceItem i WHERE NOT EXISTS (" + productOfLine.join(" UNION ALL ") + ")",
