@@ -108,7 +108,7 @@ QStringList boxes()
 }
 
 // The window showing `table`, with the row under `code` highlighted when one is given.
-Admin *open(const QString &table, const QString &code = QString())
+Admin *openCategory(const QString &table, const QString &code = QString())
 {
     Admin *admin = TestSupport::makeAdmin();
     showCategory(admin, table);
@@ -252,7 +252,7 @@ private slots:
                         "Bolt Supplies", "Y", "Y", s.active ? "Keep dry" : "", -1, 12, 6, "Hondebeskuitjies", "doos"};
         QVERIFY(supplier("Acme Vet") && supplier("Bolt Supplies") && insertProduct("Goods", p) && TestSupport::exec(
             "INSERT INTO StockTraceItem (TraceNumber,Category,Code,Quantity) VALUES (1,'Goods'," + quoted(p.code) + ",5)"));
-        Admin *admin = open("Goods");
+        Admin *admin = openCategory("Goods");
         admin->ui.checkBox10->setChecked(!s.active);
         admin->ui.checkBox5->setChecked(s.assistant);
         answer({2});
@@ -304,7 +304,7 @@ private slots:
         QFETCH(Search, s);
         QVERIFY(insertProduct("Goods", product("100", "Catnip", "N")) && insertProduct("Goods", product("101", "Bobcat"))
                 && insertProduct("Goods", product("102", "CAT food")) && insertProduct("Goods", product("103", "Dog nip")));
-        Admin *admin = open("Goods");
+        Admin *admin = openCategory("Goods");
         QLineEdit *field = s.byCode ? admin->ui.code_tf : admin->ui.description_tf;
         admin->show(); // keyboard focus offscreen needs a shown, active window
         QApplication::setActiveWindow(admin);
@@ -325,7 +325,7 @@ private slots:
     void editsMarkTheForm()
     {
         QVERIFY(insertProduct("Goods", product("4", "Collar")));
-        Admin *admin = open("Goods", "4");
+        Admin *admin = openCategory("Goods", "4");
         QVERIFY(!marked(admin) && !admin->ui.pushButton30->signalsBlocked());
 
         admin->ui.Tax1_checkBox->setChecked(false);
@@ -442,7 +442,7 @@ private slots:
         for (const QString &code : codes)
             QVERIFY(insertProduct(table, product(code, "Item " + code)));
         QVERIFY(insertProduct(table == "Goods" ? "Lab" : "Goods", product("500", "Elsewhere")));
-        Admin *admin = open(table);
+        Admin *admin = openCategory(table);
         typeForm(admin, QString(), "Fresh item", " ");
         answer({Yes, Yes});
 
@@ -479,7 +479,7 @@ private slots:
         const bool modify = slot == "modifyEntry";
         QVERIFY(supplier("O'Hara \\ Sons") && insertProduct("Vaccination", {"M'1\\", "Old drops", "Y", 10, 1.5, 17.25, 6,
             0, "each", "", "Y", "N", "Give with food", 2, 10, 0, "", "", 90}));
-        Admin *admin = open("Vaccination", modify ? "M'1\\" : QString());
+        Admin *admin = openCategory("Vaccination", modify ? "M'1\\" : QString());
         QCOMPARE(admin->ui.dtr_tf->text(), QString(modify ? "90" : ""));
         typeForm(admin, "N'2\\", row[1], "O'Hara \\ Sons");
         type({{admin->ui.cost_tf, "1234567.89"}, {admin->ui.quantity_tf, "7"}, {admin->ui.level_tf, "lots"},
@@ -526,7 +526,7 @@ private slots:
     {
         QFETCH(Refusal, r);
         QVERIFY(insertProduct("Goods", product("5", "Bone")));
-        Admin *admin = open("Goods", r.highlight ? "5" : QString());
+        Admin *admin = openCategory("Goods", r.highlight ? "5" : QString());
         typeForm(admin, r.code, r.description, " ");
         const QStringList before = stored("Goods", "5");
         answer(r.answers);
@@ -566,7 +566,7 @@ private slots:
         QFETCH(bool, traceLinesMissing);
         QFETCH(QStringList, copies);
         QVERIFY(wormerHistory() && (!traceLinesMissing || TestSupport::exec("DROP TABLE StockTraceItem")));
-        Admin *admin = open("Goods", "100");
+        Admin *admin = openCategory("Goods", "100");
         type({{admin->ui.code_tf, code}, {admin->ui.description_tf, description}, {admin->ui.sell_tf, "19.99"}});
         admin->ui.schedule_combo->setCurrentIndex(code == "100" ? 1 : 3);
         answer({Yes, Yes}); // the confirmation and the supplier question
@@ -604,7 +604,7 @@ private slots:
         // Earlier movements, so that the key read back is not simply 1.
         QVERIFY(TestSupport::exec("INSERT INTO StockTrace (MyDate,SP,Notes) VALUES ('2026-01-01','Rec','x'),"
                                   "('2026-01-02','Rec','y')"));
-        Admin *admin = open(table, deleted);
+        Admin *admin = openCategory(table, deleted);
         answer({Yes});
 
         admin->deleteEntry();
