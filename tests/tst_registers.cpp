@@ -114,7 +114,7 @@ private slots:
         QTest::addColumn<QStringList>("answers");
         QTest::addColumn<QStringList>("expected");
         const auto warned = [](const char *slot, const QString &caption, const QString &text, const QString &user = "") {
-            QTest::addRow("%s warns %s", slot, qPrintable(user)) << slot << user << QStringList() << QStringList{caption + ": " + text};
+            QTest::addRow("%s, %s", slot, qPrintable(user.isEmpty() ? "nothing selected" : user)) << slot << user << QStringList() << QStringList{caption + ": " + text};
         };
         const auto declined = [](const char *slot, const QString &caption, const QString &text) {
             QTest::addRow("%s declined", slot) << slot << "Vet" << QStringList()
@@ -148,10 +148,10 @@ private slots:
         for (int answered = 0; answered < 3; ++answered)
             for (const QString &last : {QString("cancelled"), QString("empty")})
                 QTest::addRow("newUser %s after %d", qPrintable(last), answered)
-                    << "newUser" << "" << QStringList(answered, "x") + QStringList(last == "empty", "")
+                    << "newUser" << "" << QStringList(answered, "x") + (last == "empty" ? QStringList{""} : QStringList())
                     << labels.mid(0, answered + 1) + QStringList{"New User: Operation cancelled"};
         for (const QStringList &answers : {QStringList(), QStringList{""}})
-            QTest::addRow("newAutoProc %d", int(answers.size())) << "newAutoProc" << "" << answers
+            QTest::addRow("newAutoProc %s", answers.isEmpty() ? "cancelled" : "empty") << "newAutoProc" << "" << answers
                 << QStringList{"New Auto Procedure: Enter the new Auto Procedure name", "New Auto Procedure: Operation cancelled"};
     }
 
