@@ -48,11 +48,8 @@ bool addSupplier(const QStringList &v) { return insert("Supply", supplierColumns
 Table suppliers() { return rows("SELECT " + supplierColumns + " FROM Supply ORDER BY keynum"); }
 
 // Items under the name of their procedure; an item left without one shows an empty name.
-Table contents()
-{
-    return rows("SELECT p.Description,c.Category,c.Code,c.Quantity,c.Charge FROM AutoProcContents c "
-                "LEFT JOIN AutoProc p ON p.Code=c.ProcId ORDER BY c.id");
-}
+Table contents() { return rows("SELECT p.Description,c.Category,c.Code,c.Quantity,c.Charge FROM AutoProcContents c "
+                               "LEFT JOIN AutoProc p ON p.Code=c.ProcId ORDER BY c.id"); }
 
 Table listed(const QTreeWidget *list)
 {
@@ -69,8 +66,12 @@ template <typename List> void select(List *list, const QString &text)
     list->setCurrentItem(list->findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive).value(0));
 }
 
-void confirmed(Admin *admin, void (Admin::*slot)())
+// Answers Yes to what `slot` asks, after making the row showing `text` current when a list is given.
+template <typename List = QTreeWidget>
+void confirmed(Admin *admin, void (Admin::*slot)(), List *list = nullptr, const QString &text = {})
 {
+    if (list)
+        select(list, text);
     TestSupport::prompter()->answer(0);
     (admin->*slot)();
 }
@@ -245,8 +246,7 @@ private slots:
         ui.checkBox6->setChecked(true);
         ui.lineEdit45->setText("12.25");
         confirmed(admin, &Admin::updateUserId);
-        select(ui.users_list, "Admin");
-        confirmed(admin, &Admin::deleteUser);
+        confirmed(admin, &Admin::deleteUser, ui.users_list, "Admin");
         select(ui.users_list, "Nurse");
         ui.userCode_tf->setText("a1");
 
@@ -276,23 +276,19 @@ private slots:
         select(ui.supply_list, "Beta");
         ui.company_tf->setText("Zeta's");
         confirmed(admin, &Admin::updateSupplier);
-        select(ui.supply_list, odd.at(0));
-        confirmed(admin, &Admin::newSupplier);
-        select(ui.supply_list, odd.at(0));
-        confirmed(admin, &Admin::updateSupplier);
+        confirmed(admin, &Admin::newSupplier, ui.supply_list, odd.at(0));
+        confirmed(admin, &Admin::updateSupplier, ui.supply_list, odd.at(0));
         QCOMPARE(suppliers(), Table({supplier("Gamma"), zeta, odd, odd}));
         QCOMPARE(listed(ui.supply_list), Table({supplier("Gamma"), odd, odd, zeta}));
-        select(ui.supply_list, odd.at(0));
-        confirmed(admin, &Admin::deleteSupplier);
+        confirmed(admin, &Admin::deleteSupplier, ui.supply_list, odd.at(0));
         admin->clearSupply();
         ui.company_tf->setText("Next");
         confirmed(admin, &Admin::newSupplier);
         QCOMPARE(suppliers(), Table({supplier("Gamma"), zeta, odd, {"Next", "", "", "", "", "", "", "", "Y"}}));
         QVERIFY(TestSupport::exec("CREATE UNIQUE INDEX supply_test ON Supply (Company)"));
         QVERIFY(addSupplier(supplier("Behind the list")));
-        select(ui.supply_list, "Gamma");
 
-        confirmed(admin, &Admin::newSupplier);
+        confirmed(admin, &Admin::newSupplier, ui.supply_list, "Gamma");
 
         QCOMPARE(TestSupport::prompter()->last().icon, int(Prompter::Critical));
         QCOMPARE(ui.supply_list->topLevelItemCount(), 5);
