@@ -109,14 +109,14 @@ private slots:
     void nothingChangesWithoutConsent_data()
     {
         QTest::addColumn<QString>("slot");
-        QTest::addColumn<QString>("user"); // with supplier Acme and procedure Spay; Vet for a question; none: nothing selected
+        QTest::addColumn<QString>("user"); // Vet for a question, with Acme and Spay; none: nothing selected
         QTest::addColumn<QStringList>("answers");
         QTest::addColumn<QStringList>("expected");
         const auto row = [](const char *slot, const QString &caption, const QString &text, const QString &user = "") {
             const bool asked = text.startsWith("Confirm");
             QTest::addRow("%s, %s", slot, asked ? "declined" : user.isEmpty() ? "nothing selected" : qPrintable(user))
                 << slot << (asked ? "Vet" : user) << QStringList()
-                << QStringList{caption + ": " + text} + (asked ? QStringList{caption + ": Operation cancelled"} : QStringList());
+                << QStringList{caption + ": " + text, caption + ": Operation cancelled"}.mid(0, asked ? 2 : 1);
         };
         row("deleteUser", "Delete User", "You must have a user selected to perform a delete");
         row("deleteUser", "Delete User", "You may not delete the administrator", "admin");
