@@ -127,6 +127,7 @@ Admin *openCategory(const QString &table, const QString &code = QString())
 
 QString currentCode(Admin *admin) { return each(admin->ui.list->selectedItems(), [](auto *r) { return r->text(0); }).value(0); }
 void type(const QList<std::pair<QLineEdit *, QString>> &fields) { for (const auto &[f, text] : fields) f->setText(text); }
+void tick(const QList<std::pair<QAbstractButton *, bool>> &boxes) { for (const auto &[box, on] : boxes) box->setChecked(on); }
 
 void typeForm(Admin *admin, const QString &code, const QString &description, const QString &supplier)
 {
@@ -212,8 +213,7 @@ private slots:
             "INSERT INTO StockTraceItem (TraceNumber,Category,Code,Quantity) VALUES (1,'Goods'," + quoted(p.code) + ",5)"));
         Admin *admin = openCategory("Goods");
         Ui::Admin &ui = admin->ui;
-        ui.checkBox10->setChecked(!s.active);
-        ui.checkBox5->setChecked(s.assistant);
+        tick({{ui.checkBox10, !s.active}, {ui.checkBox5, s.assistant}});
         answer({2});
 
         QVERIFY(selectRow(admin, p.code));
@@ -329,18 +329,15 @@ private slots:
     {
         QFETCH(Price, p);
         Admin *admin = TestSupport::makeAdmin();
-        Ui::Admin &ui = admin->ui;
         QVERIFY(TestSupport::exec("UPDATE SysInfo SET Tax2Name='Levy', Tax2=0.05") && utils->initClass(true));
-        ui.Tax2_checkBox->setEnabled(true);
-        ui.checkBox5->setChecked(p.assistant);
-        ui.Tax1_checkBox->setChecked(p.tax1);
-        ui.Tax2_checkBox->setChecked(p.tax2);
-        type({{ui.markup_tf, p.markup}, {ui.cost_tf, p.cost}});
-        QCOMPARE(ui.sell_tf->text(), p.sell);
+        admin->ui.Tax2_checkBox->setEnabled(true);
+        tick({{admin->ui.checkBox5, p.assistant}, {admin->ui.Tax1_checkBox, p.tax1}, {admin->ui.Tax2_checkBox, p.tax2}});
+        type({{admin->ui.markup_tf, p.markup}, {admin->ui.cost_tf, p.cost}});
+        QCOMPARE(admin->ui.sell_tf->text(), p.sell);
         if (!p.typed.isEmpty()) {
             answer(p.answer < 0 ? QList<int>() : QList<int>{p.answer});
-            ui.sell_tf->setText(p.typed);
-            QTest::keyClick(ui.sell_tf, Qt::Key_Return);
+            admin->ui.sell_tf->setText(p.typed);
+            QTest::keyClick(admin->ui.sell_tf, Qt::Key_Return);
         }
 
         const bool asked = p.assistant && !p.typed.isEmpty() && p.typed != p.sell;
@@ -350,10 +347,10 @@ private slots:
             QCOMPARE(QStringList({QString::number(box.icon), box.caption, QString::number(box.defaultIndex)}) + box.buttons,
                      QStringList({QString::number(Prompter::Question), "Quorel", "0", "&Ignore", "&Cost", "&Markup"}));
         const QString sell = p.typed.isEmpty() ? p.sell : p.typed;
-        QCOMPARE(texts({ui.cost_tf, ui.markup_tf, ui.sell_tf}), QStringList({p.cost2, p.markup2, sell}));
+        QCOMPARE(texts({admin->ui.cost_tf, admin->ui.markup_tf, admin->ui.sell_tf}), QStringList({p.cost2, p.markup2, sell}));
         QCOMPARE(warned(admin), p.warning);
-        type({{ui.cost_tf, ""}, {ui.markup_tf, ""}});
-        QCOMPARE(ui.sell_tf->text(), sell);
+        type({{admin->ui.cost_tf, ""}, {admin->ui.markup_tf, ""}});
+        QCOMPARE(admin->ui.sell_tf->text(), sell);
     }
 
     // Each category allocates from its own codes; the service categories ask nothing about a supplier.
@@ -406,20 +403,18 @@ private slots:
                           "", "", 90};
         QVERIFY(supplier("O'Hara \\ Sons") && insertProducts("Vaccination", {old}));
         Admin *admin = openCategory("Vaccination", w.modify ? "M'1\\" : QString());
-        Ui::Admin &ui = admin->ui;
-        QCOMPARE(ui.dtr_tf->text(), QString(w.modify ? "90" : ""));
+        QCOMPARE(admin->ui.dtr_tf->text(), QString(w.modify ? "90" : ""));
         typeForm(admin, "N'2\\", w.row[1], "O'Hara \\ Sons");
-        type({{ui.cost_tf, "1234567.89"}, {ui.quantity_tf, "7"}, {ui.level_tf, "lots"}, {ui.onorder_tf, ""},
-              {ui.dtr_tf, w.days}});
-        ui.Tax1_checkBox->setChecked(w.row[14] == "Y");
-        ui.active_tb->setChecked(false);
-        QCOMPARE(ui.sell_tf->text(), w.row[4]);
+        type({{admin->ui.cost_tf, "1234567.89"}, {admin->ui.quantity_tf, "7"}, {admin->ui.level_tf, "lots"},
+              {admin->ui.onorder_tf, ""}, {admin->ui.dtr_tf, w.days}});
+        tick({{admin->ui.Tax1_checkBox, w.row[14] == "Y"}, {admin->ui.active_tb, false}});
+        QCOMPARE(admin->ui.sell_tf->text(), w.row[4]);
 
         QCOMPARE(run(admin, w.modify ? "modifyEntry" : "newEntry", {Yes}).size(), 1);
 
         QCOMPARE(stored("Vaccination", "N'2\\", Columns + ",DaysToReminder"), w.row);
         QCOMPARE(count("Vaccination"), w.modify ? 1 : 2);
-        QCOMPARE(currentCode(admin) + ui.description_tf->text(), "N'2\\" + w.row[1]);
+        QCOMPARE(currentCode(admin) + admin->ui.description_tf->text(), "N'2\\" + w.row[1]);
     }
 
     void refusedOrDeclinedChangesNothing_data()
