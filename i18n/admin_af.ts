@@ -77,7 +77,7 @@
     </message>
     <message>
         <location line="+10"/>
-        <location filename="../admin/breeds.cpp" line="+48"/>
+        <location filename="../admin/breeds.cpp" line="+49"/>
         <source>Alt Lang</source>
         <translation>Alt Taal</translation>
     </message>
@@ -482,7 +482,7 @@
     </message>
     <message>
         <location line="+5"/>
-        <location filename="../admin/users.cpp" line="+218"/>
+        <location filename="../admin/users.cpp" line="+189"/>
         <source>Add Permission</source>
         <translation type="unfinished"></translation>
     </message>
@@ -679,7 +679,6 @@
         <location line="+3"/>
         <location filename="../admin/breeds.cpp" line="+39"/>
         <location line="+4"/>
-        <location line="+1"/>
         <source>Delete Breed</source>
         <translation type="unfinished"></translation>
     </message>
@@ -918,7 +917,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../admin/breeds.cpp" line="-26"/>
+        <location filename="../admin/breeds.cpp" line="-25"/>
         <source>Quorel Database Error</source>
         <translation type="unfinished"></translation>
     </message>
@@ -941,15 +940,13 @@ Database: %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+1"/>
-        <location filename="../admin/practice.cpp" line="+87"/>
-        <location filename="../admin/productedit.cpp" line="+40"/>
+        <location filename="../admin/practice.cpp" line="+67"/>
         <location filename="../admin/tabsupport.cpp" line="+33"/>
         <source>Operation cancelled</source>
         <translation>Handeling gekanselleer</translation>
     </message>
     <message>
-        <location filename="../admin/practice.cpp" line="-2"/>
+        <location line="-2"/>
         <source>Quorel Admin</source>
         <translation type="unfinished"></translation>
     </message>
@@ -989,7 +986,7 @@ Database: %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../admin/productedit.cpp" line="+10"/>
+        <location filename="../admin/productedit.cpp" line="+26"/>
         <source>&lt;font color=&quot;red&quot;&gt;No supplier has been selected.&lt;/font&gt;&lt;p&gt;This is not recommended and may cause problems with reports and orders.&lt;p&gt;Do you wish to continue ?</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1059,7 +1056,7 @@ from the system?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../admin/products.cpp" line="+224"/>
+        <location filename="../admin/products.cpp" line="+225"/>
         <source>Search By Code</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1263,7 +1260,7 @@ to have a new user Code %2,Initials %3, and Commission %4</source>
 <context>
     <name>Startup</name>
     <message>
-        <location filename="../admin/startup.cpp" line="+76"/>
+        <location filename="../admin/startup.cpp" line="+73"/>
         <source>Quorel</source>
         <translation type="unfinished"></translation>
     </message>

@@ -30,6 +30,84 @@
     </message>
 </context>
 <context>
+    <name>TraceAuditDialog</name>
+    <message>
+        <location filename="../shared/traceaudit.cpp" line="+120"/>
+        <source>Stock Trace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>%1 is not a product table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Stock Trace of %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Movement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Trace / Invoice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Note / Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Counted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+9"/>
+        <source>Received</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Dispensed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+11"/>
+        <source>Received: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Dispensed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>On Hand: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Utility</name>
     <message>
         <location filename="../shared/prompter.cpp" line="+36"/>
@@ -47,7 +125,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../shared/utility.cpp" line="+67"/>
+        <location filename="../shared/utility.cpp" line="+63"/>
         <location line="+6"/>
         <source>Quorel</source>
         <translation type="unfinished"></translation>
@@ -69,7 +147,7 @@
         <translation>Die aanmeld-ID of kode is nie korrek nie. Probeer weer.</translation>
     </message>
     <message>
-        <location line="+22"/>
+        <location line="+25"/>
         <source>The database reported an error.
 
 Driver: %1
@@ -90,7 +168,7 @@ Statement:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location line="+107"/>
+        <location line="+100"/>
         <source>Quorel Admin Help</source>
         <translation type="unfinished"></translation>
     </message>

@@ -117,7 +117,8 @@ bool loadStockMovements(const QString &code, const QString &table, QList<StockMo
 {
     movements->clear();
     if (!Utility::categories().contains(table)) {
-        Prompter::warn(nullptr, QObject::tr("Stock Trace"), QObject::tr("%1 is not a product table").arg(table));
+        Prompter::warn(nullptr, TraceAuditDialog::tr("Stock Trace"),
+                       TraceAuditDialog::tr("%1 is not a product table").arg(table));
         return false;
     }
     if (!loadReceived(code, table, movements) || !loadDispensed(code, table, movements))

@@ -17,11 +17,6 @@
 #include <cmath>
 
 namespace {
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utility", text);
-}
-
 bool connectionIsMySql()
 {
     return QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false)

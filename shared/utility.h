@@ -1,6 +1,7 @@
 #ifndef QUOREL_UTILITY_H
 #define QUOREL_UTILITY_H
 
+#include <QCoreApplication>
 #include <QPalette>
 #include <QSqlQuery>
 #include <QString>
@@ -9,6 +10,8 @@
 // tax, SQL escaping, database error display and the stock services. One per process (`utils`).
 class Utility
 {
+    Q_DECLARE_TR_FUNCTIONS(Utility)
+
 public:
     explicit Utility(const QString &applicationName);
     ~Utility();
