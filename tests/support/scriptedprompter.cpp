@@ -21,83 +21,75 @@ QStringList ScriptedPrompter::messageTexts() const
     return texts;
 }
 
+namespace {
+ScriptedPrompter::Call call(const char *kind, const QString &caption, const QString &text = QString())
+{
+    ScriptedPrompter::Call made;
+    made.kind = kind;
+    made.caption = caption;
+    made.text = text;
+    return made;
+}
+} // namespace
+
+// The next queued answer; an empty queue or a cancel() leaves `ok` false.
+QVariant ScriptedPrompter::nextInput(const Call &call, bool *ok)
+{
+    calls << call;
+    const QVariant answer = answers.isEmpty() ? QVariant() : answers.dequeue();
+    if (ok)
+        *ok = answer.isValid();
+    return answer;
+}
+
 int ScriptedPrompter::message(QWidget *, Icon icon, const QString &caption, const QString &text,
                               const QStringList &buttons, int defaultIndex, int escapeIndex)
 {
-    Call call;
-    call.kind = "message";
-    call.icon = icon;
-    call.caption = caption;
-    call.text = text;
-    call.buttons = buttons;
-    call.defaultIndex = defaultIndex;
-    calls << call;
-    if (answers.isEmpty())
-        return escapeIndex;
-    const QVariant answer = answers.dequeue();
-    return answer.isValid() ? answer.toInt() : escapeIndex;
+    Call c = call("message", caption, text);
+    c.icon = icon;
+    c.buttons = buttons;
+    c.defaultIndex = defaultIndex;
+    bool answered = false;
+    const QVariant answer = nextInput(c, &answered);
+    return answered ? answer.toInt() : escapeIndex;
 }
 
 QString ScriptedPrompter::getText(QWidget *, const QString &caption, const QString &label, QLineEdit::EchoMode echo,
                                   const QString &, bool *ok)
 {
-    Call call;
-    call.kind = "getText";
-    call.caption = caption;
-    call.text = label;
-    call.echo = echo;
-    calls << call;
-    const QVariant answer = answers.isEmpty() ? QVariant() : answers.dequeue();
-    if (ok)
-        *ok = answer.isValid();
-    return answer.toString();
+    Call c = call("getText", caption, label);
+    c.echo = echo;
+    return nextInput(c, ok).toString();
 }
 
 QString ScriptedPrompter::getItem(QWidget *, const QString &caption, const QString &label, const QStringList &items,
                                   int, bool, bool *ok)
 {
-    Call call;
-    call.kind = "getItem";
-    call.caption = caption;
-    call.text = label;
-    call.buttons = items;
-    calls << call;
-    const QVariant answer = answers.isEmpty() ? QVariant() : answers.dequeue();
-    if (ok)
-        *ok = answer.isValid();
-    return answer.toString();
+    Call c = call("getItem", caption, label);
+    c.buttons = items;
+    return nextInput(c, ok).toString();
 }
 
 int ScriptedPrompter::getInt(QWidget *, const QString &caption, const QString &label, int value, int, int, int,
                              bool *ok)
 {
-    Call call;
-    call.kind = "getInt";
-    call.caption = caption;
-    call.text = label;
-    calls << call;
-    const QVariant answer = answers.isEmpty() ? QVariant() : answers.dequeue();
+    bool answered = false;
+    const QVariant answer = nextInput(call("getInt", caption, label), &answered);
     if (ok)
-        *ok = answer.isValid();
-    return answer.isValid() ? answer.toInt() : value;
+        *ok = answered;
+    return answered ? answer.toInt() : value;
 }
 
 QString ScriptedPrompter::getSaveFileName(QWidget *, const QString &caption, const QString &, const QString &)
 {
-    Call call;
-    call.kind = "getSaveFileName";
-    call.caption = caption;
-    calls << call;
-    return answers.isEmpty() ? QString() : answers.dequeue().toString();
+    return nextInput(call("getSaveFileName", caption), nullptr).toString();
 }
 
 int ScriptedPrompter::exec(QDialog *dialog)
 {
-    Call call;
-    call.kind = "exec";
-    call.dialogName = dialog->objectName();
-    call.caption = dialog->windowTitle();
-    calls << call;
+    Call c = call("exec", dialog->windowTitle());
+    c.dialogName = dialog->objectName();
+    calls << c;
     if (dialogHandlers.isEmpty())
         return QDialog::Rejected;
     return dialogHandlers.dequeue()(dialog);
@@ -105,8 +97,5 @@ int ScriptedPrompter::exec(QDialog *dialog)
 
 bool ScriptedPrompter::setupPrinter(QPrinter *, QWidget *)
 {
-    Call call;
-    call.kind = "setupPrinter";
-    calls << call;
-    return !answers.isEmpty() && answers.dequeue().toBool();
+    return nextInput(call("setupPrinter", QString()), nullptr).toBool();
 }

@@ -93,6 +93,7 @@ public:
     bool setupPrinter(QPrinter *printer, QWidget *parent) override;
 
 private:
+    QVariant nextInput(const Call &call, bool *ok);
     QQueue<QVariant> answers;
     QQueue<std::function<int(QDialog *)>> dialogHandlers;
 };
