@@ -62,10 +62,7 @@ bool Admin::submitBreeds()
 {
     if (breeds->submitAll())
         return true;
-    const QSqlError error = breeds->lastError();
-    Prompter::critical(this, tr("Quorel Database Error"),
-                       tr("The breed could not be saved.\n\nDriver: %1\nDatabase: %2")
-                           .arg(error.driverText(), error.databaseText()));
+    utils->showDBError(breeds->lastError());
     // Reading the table again drops the refused change (revertAll() trips over a refused new row).
     breeds->select();
     return false;

@@ -109,11 +109,15 @@ int Utility::validateLoginId()
 
 bool Utility::showDBError(const QSqlQuery &query)
 {
-    const QSqlError error = query.lastError();
+    return showDBError(query.lastError(), query.lastQuery());
+}
+
+bool Utility::showDBError(const QSqlError &error, const QString &statement)
+{
     QString text = tr("The database reported an error.\n\nDriver: %1\nDatabase: %2")
                        .arg(error.driverText(), error.databaseText());
-    if (!query.lastQuery().isEmpty())
-        text += tr("\n\nStatement:\n%1").arg(query.lastQuery());
+    if (!statement.isEmpty())
+        text += tr("\n\nStatement:\n%1").arg(statement);
     Prompter::critical(QApplication::activeWindow(), tr("Quorel Database Error"), text);
     return true;
 }

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QPalette>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QString>
 
@@ -28,6 +29,8 @@ public:
 
     // Shows the failed statement's errors; returns true: the caller is to stop.
     bool showDBError(const QSqlQuery &query); // Qt 6 queries are not copied
+    // The same for a failure that has no query of its own, such as a data table's submit.
+    bool showDBError(const QSqlError &error, const QString &statement = QString());
     // Makes `text` safe between single quotes on the engine of the default connection.
     QString escapeSQL(const QString &text, bool flag) const;
 
