@@ -328,7 +328,7 @@ private slots:
         QTest::addColumn<Rows>("stored");
         QTest::addColumn<QStringList>("messages"); // each one's first line
         const QStringList beagle{"Beagle", "Brak"}, dachshund{"Dachshund", "Worshond"};
-        const QStringList none, refused{"The breed could not be saved."};
+        const QStringList none, refused{"The database reported an error."};
         const QString question = "Confirm that you will delete the breed 'Collie'";
         QTest::newRow("description") << 1 << "Description" << "Bearded Collie"
                                      << Rows{beagle, {"Bearded Collie", "Skaaphond"}, dachshund} << none;
