@@ -677,7 +677,7 @@
     </message>
     <message>
         <location line="+3"/>
-        <location filename="../admin/breeds.cpp" line="+39"/>
+        <location filename="../admin/breeds.cpp" line="+36"/>
         <location line="+4"/>
         <source>Delete Breed</source>
         <translation type="unfinished"></translation>
@@ -917,20 +917,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../admin/breeds.cpp" line="-25"/>
-        <source>Quorel Database Error</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>The breed could not be saved.
-
-Driver: %1
-Database: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+20"/>
+        <location filename="../admin/breeds.cpp" line="-4"/>
         <source>You must highlight a breed to delete</source>
         <translation type="unfinished"></translation>
     </message>

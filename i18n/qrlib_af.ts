@@ -147,7 +147,7 @@
         <translation>Die aanmeld-ID of kode is nie korrek nie. Probeer weer.</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+29"/>
         <source>The database reported an error.
 
 Driver: %1
