@@ -18,9 +18,9 @@ QString num(double value) { return Utility::numStr(value, 2); }
 bool trickyPractice()
 {
     return TestSupport::exec("INSERT INTO StockTrace (TraceNumber, MyDate, Notes) VALUES (1,'2026-01-05','Delivery'),"
-                             "(2,'2026-03-01','Top-up'),(3,'2026-01-10','')")
+                             "(2,'2026-03-01','Top-up'),(3,'2026-01-10',''),(5,'2026-02-01 15:00','Late')")
         && TestSupport::exec("INSERT INTO StockTraceItem (TraceNumber, Category, Code, Quantity) VALUES "
-                             "(1,'Goods','1',10),(2,'Goods','1',2.5),(3,'Goods','3',4),(4,'Medication','1',100)")
+                             "(1,'Goods','1',10),(2,'Goods','1',2.5),(3,'Goods','3',4),(4,'Medication','1',100),(5,'Goods','2',1)")
         && TestSupport::exec("INSERT INTO Invoice (MyNumber, MyDate, Status) VALUES (101,'2026-02-01','P'),"
                              "(102,'2026-02-02',''),(103,'2026-02-03',''),(104,'2026-02-04',''),(105,'2026-02-05',''),"
                              "(106,'2026-02-06',''),(107,'2026-02-07','p'),(108,'2026-02-08',''),(109,'2026-02-09','P')")
@@ -98,8 +98,8 @@ private slots:
             "2026-02-04,Dispensed,104,,4.00,1,-2.00", "2026-02-05,Dispensed,105,,7.00,0,-2.00",
             "2026-02-06,Dispensed,106,,6.00,0,-2.00", "2026-02-07,Dispensed,107,p,0.75,0,-2.00",
             "2026-02-08,Dispensed,108,,0.25,0,-2.00", "2026-03-01,Received,2,Top-up,2.50,1,0.50"};
-        QTest::newRow("only dispensed") << "Goods" << "2" << 9.0 << int(Close) << 0.0 << 3.0
-                                        << QStringList{"2026-02-01,Dispensed,101,P,3.00,1,-3.00"};
+        QTest::newRow("received later the same day, listed first") << "Goods" << "2" << 9.0 << int(Close) << 1.0 << 3.0
+            << QStringList{"2026-02-01 15:00,Received,5,Late,1.00,1,1.00", "2026-02-01,Dispensed,101,P,3.00,1,-2.00"};
         QTest::newRow("agrees, only received") << "Goods" << "3" << 4.0 << int(Trace) << 4.0 << 0.0
                                                << QStringList{"2026-01-10,Received,3,,4.00,1,4.00"};
         QTest::newRow("same code in another table, no trace header") << "Medication" << "1" << 9.0 << int(Trace) << 100.0 << 1.0 << QStringList{
@@ -140,7 +140,7 @@ private slots:
         QCOMPARE(admin->ui.quantity_tf->text(), num(after));
         QCOMPARE(admin->ui.quantity_tf->palette().color(QPalette::Base) == QColor(0, 0, 255), answer == Adjust);
         QCOMPARE(TestSupport::value("SELECT SUM(Quantity) FROM " + table).toDouble(), after + 7);
-        QCOMPARE(TestSupport::value("SELECT COUNT(*) FROM StockTrace").toInt(), 3);
+        QCOMPARE(TestSupport::value("SELECT COUNT(*) FROM StockTrace").toInt(), 4);
     }
 
     // Reloaded at once, with look 2 for a level that disagrees; then no row is current for either tool.

@@ -174,6 +174,14 @@ private slots:
                               "If the <b>Code</b> field has focus search for that code, else search for the "
                               "<b>Description</b>", "Quick / Detailed Stock trace on current item."}));
         QVERIFY(ui.table->isColumnHidden(column(admin, "keynum")));
+        QStringList headings; // the product list's columns, then the permission classes
+        for (int i = 0; i < ui.list->columnCount(); ++i)
+            headings << ui.list->headerItem()->text(i);
+        for (int i = 0; i < ui.class_combo->count(); ++i)
+            headings << ui.class_combo->itemText(i);
+        QCOMPARE(headings.join('|'), QString("Code|Description|Schedule|Unit Of Measure|Cost Price|Sales Price|Stock Level|"
+                                             "On Order|Order Date|Active|Dispense|Utility|Schedule|Procedure Schedule|"
+                                             "Hospital Schedule|Stock Schedule|Stock"));
         // The category's words name the product tables; the window opens on the first.
         const QStringList categories{"Goods", "Hospital", "Consult", "Diagnosis", "Injection", "Lab", "Medication",
                                      "Proc", "Vaccination"};
