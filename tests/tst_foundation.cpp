@@ -35,19 +35,16 @@ const QString product =
     "'6.67','0','5','15','0','Afrivet','','Tablet','Y','N','','Y')";
 } // namespace
 
-class FoundationTest : public QObject
+class FoundationTest : public TestSupport::EngineSuite
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(TestSupport::initEngine()); }
-    void init() { QVERIFY(TestSupport::freshSchema()); }
     void cleanup()
     {
         settings->setValue(driverKey, settingsOf[TestSupport::engine()].first());
-        TestSupport::cleanup();
+        EngineSuite::cleanup();
     }
-    void cleanupTestCase() { TestSupport::finish(); }
 
     // Into an INSERT and a WHERE as the program builds them, and back unchanged; no engine keeps a NUL
     // inside a text value, so it is dropped the same everywhere.

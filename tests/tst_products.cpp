@@ -149,16 +149,11 @@ struct Cascade { QString code, description; bool traceLinesMissing; QStringList 
 struct Deletion { QString table, deleted, reselected; };
 } // namespace
 
-class ProductsTest : public QObject
+class ProductsTest : public TestSupport::EngineSuite
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(TestSupport::initEngine()); }
-    void init() { QVERIFY(TestSupport::freshSchema()); }
-    void cleanup() { TestSupport::cleanup(); }
-    void cleanupTestCase() { TestSupport::finish(); }
-
     // Inactive rows come last and are never checked against the trace (the form still holds the disagreeing
     // Zebra feed then); the form is cleared after loading, and a row removed meanwhile leaves it so.
     void categoryListsActiveFirstThenInactive()

@@ -87,19 +87,15 @@ Table everything()
 
 } // namespace
 
-class RegistersTest : public QObject
+class RegistersTest : public TestSupport::EngineSuite
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(TestSupport::initEngine()); }
-    void cleanup() { TestSupport::cleanup(); }
-    void cleanupTestCase() { TestSupport::finish(); }
-
     // Every product is taxed: the charges of the procedures leave the taxes out all the same.
     void init()
     {
-        QVERIFY(TestSupport::freshSchema());
+        EngineSuite::init();
         for (const QVariantList &p : {QVariantList{"Goods", "1", "Bandage", 10.0}, {"Goods", "2", "Cotton 'wool' \\ roll", 0.5},
                                       {"Medication", "7", "Pill", 1.25}, {"Proc", "3", "Spay", 300.0}})
             QVERIFY(insert(p.at(0).toString(), "Code,Description,Price,Tax1,Tax2,Active", p.mid(1) << "Y" << "Y" << "Y"));

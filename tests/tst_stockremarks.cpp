@@ -73,16 +73,11 @@ void readAudit(QStringList *audit)
 QImage iconImage(const QIcon &icon) { return icon.pixmap(22, 22).toImage().convertToFormat(QImage::Format_ARGB32); }
 } // namespace
 
-class StockAndRemarksTest : public QObject
+class StockAndRemarksTest : public TestSupport::EngineSuite
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(TestSupport::initEngine()); }
-    void init() { QVERIFY(TestSupport::freshSchema()); }
-    void cleanup() { TestSupport::cleanup(); }
-    void cleanupTestCase() { TestSupport::finish(); }
-
     void traceFollowsTheJournalRule_data()
     {
         QTest::addColumn<QString>("table");

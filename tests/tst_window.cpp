@@ -135,16 +135,11 @@ bool editCell(Admin *admin, int row, const char *field, const QString &text)
 
 } // namespace
 
-class WindowTest : public QObject
+class WindowTest : public TestSupport::EngineSuite
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(TestSupport::initEngine()); }
-    void init() { QVERIFY(TestSupport::freshSchema()); }
-    void cleanup() { TestSupport::cleanup(); }
-    void cleanupTestCase() { TestSupport::finish(); }
-
     // The window opens on its tabs and first category, and EXIT ends the event loop.
     void opensWithItsTabsAndExits()
     {

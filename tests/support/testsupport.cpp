@@ -219,3 +219,8 @@ ScriptedPrompter *prompter()
 }
 
 } // namespace TestSupport
+
+void TestSupport::EngineSuite::initTestCase() { QVERIFY(initEngine()); }
+void TestSupport::EngineSuite::init() { QVERIFY(freshSchema()); }
+void TestSupport::EngineSuite::cleanup() { TestSupport::cleanup(); }
+void TestSupport::EngineSuite::cleanupTestCase() { finish(); }

@@ -5,6 +5,7 @@
 #include "prompter.h"
 
 #include <QList>
+#include <QObject>
 #include <QQueue>
 #include <QStringList>
 #include <QVariant>
@@ -48,6 +49,19 @@ Admin *makeAdmin();
 
 class ScriptedPrompter;
 ScriptedPrompter *prompter();
+
+// A suite's life on its engine: connected once, a fresh schema for every case, closed at the end.
+// A suite that needs more in one of these declares the slot again and calls this one from it.
+class EngineSuite : public QObject
+{
+    Q_OBJECT
+
+protected slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+};
 
 } // namespace TestSupport
 
