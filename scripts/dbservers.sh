@@ -59,8 +59,11 @@ start_postgres() {
     $run "$pgbin/pg_ctl" -D "$d/data" -l "$d/log" -w -t 30 start \
         -o "-k $d -p $port -c listen_addresses=127.0.0.1 -c fsync=off -c synchronous_commit=off -c full_page_writes=off" >/dev/null
     wait_for "PostgreSQL" 150 psql -h 127.0.0.1 -p "$port" -U postgres -c 'SELECT 1'
+    # The test database collates by a language (ICU's en-US), as most installations' databases do,
+    # so that the tests see the order a practice's server gives, not the C order of initdb here.
     psql -q -h 127.0.0.1 -p "$port" -U postgres \
-        -c "CREATE USER quorel PASSWORD 'quorel'" -c "CREATE DATABASE quorel_test OWNER quorel ENCODING 'UTF8'"
+        -c "CREATE USER quorel PASSWORD 'quorel'" \
+        -c "CREATE DATABASE quorel_test OWNER quorel ENCODING 'UTF8' TEMPLATE template0 LOCALE_PROVIDER icu ICU_LOCALE 'en-US'"
     cat >>"$dir/env" <<ENV
 export QUOREL_PG_HOST=127.0.0.1 QUOREL_PG_PORT=$port QUOREL_PG_USER=quorel
 export QUOREL_PG_PASSWORD=quorel QUOREL_PG_DATABASE=quorel_test

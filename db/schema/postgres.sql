@@ -3,44 +3,47 @@
 -- Columns common to the nine product tables (Goods ... Vaccination); DaysToReminder only in
 -- Vaccination. Codes are text holding a number; uniqueness of Code is checked by the program, not
 -- here, because history may hold anything. Dates are "yyyy-MM-dd" text. Yes/no flags are 'Y'/'N'.
+-- Every text column collates "C" (code point order, case-sensitive), whatever locale the database
+-- was created with: lists and reports then sort exactly as on SQLite and MariaDB (utf8mb4_bin),
+-- where a database created under en_US.UTF-8 would otherwise put "bone treats" beside "Bone Treats".
 
 CREATE TABLE SysInfo (
-    ALINE1 VARCHAR(255) DEFAULT '',
-    ALINE2 VARCHAR(255) DEFAULT '',
-    ALINE3 VARCHAR(255) DEFAULT '',
-    ALINE4 VARCHAR(255) DEFAULT '',
-    ALINE5 VARCHAR(255) DEFAULT '',
-    ALINE6 VARCHAR(255) DEFAULT '',
-    ALINE7 VARCHAR(255) DEFAULT '',
-    InvFooter VARCHAR(255) DEFAULT '',
-    InvFooter1 VARCHAR(255) DEFAULT '',
-    RecFooter VARCHAR(255) DEFAULT '',
-    StatementFooter1 VARCHAR(255) DEFAULT '',
-    StatementFooter2 VARCHAR(255) DEFAULT '',
-    StatementFooter3 VARCHAR(255) DEFAULT '',
-    HandOverFooter VARCHAR(255) DEFAULT '',
-    LABEL2 VARCHAR(255) DEFAULT '',
-    LABEL3 VARCHAR(255) DEFAULT '',
-    Tax1Name VARCHAR(255) DEFAULT '',
-    Tax2Name VARCHAR(255) DEFAULT '',
-    ALINE1_A VARCHAR(255) DEFAULT '',
-    ALINE2_A VARCHAR(255) DEFAULT '',
-    ALINE3_A VARCHAR(255) DEFAULT '',
-    ALINE4_A VARCHAR(255) DEFAULT '',
-    ALINE5_A VARCHAR(255) DEFAULT '',
-    ALINE6_A VARCHAR(255) DEFAULT '',
-    ALINE7_A VARCHAR(255) DEFAULT '',
-    InvFooter_A VARCHAR(255) DEFAULT '',
-    InvFooter1_A VARCHAR(255) DEFAULT '',
-    RecFooter_A VARCHAR(255) DEFAULT '',
-    StatementFooter1_A VARCHAR(255) DEFAULT '',
-    StatementFooter2_A VARCHAR(255) DEFAULT '',
-    StatementFooter3_A VARCHAR(255) DEFAULT '',
-    HandOverFooter_A VARCHAR(255) DEFAULT '',
-    LABEL2_A VARCHAR(255) DEFAULT '',
-    LABEL3_A VARCHAR(255) DEFAULT '',
-    Tax1Name_A VARCHAR(255) DEFAULT '',
-    Tax2Name_A VARCHAR(255) DEFAULT '',
+    ALINE1 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE2 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE3 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE4 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE5 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE6 VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE7 VARCHAR(255) COLLATE "C" DEFAULT '',
+    InvFooter VARCHAR(255) COLLATE "C" DEFAULT '',
+    InvFooter1 VARCHAR(255) COLLATE "C" DEFAULT '',
+    RecFooter VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter1 VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter2 VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter3 VARCHAR(255) COLLATE "C" DEFAULT '',
+    HandOverFooter VARCHAR(255) COLLATE "C" DEFAULT '',
+    LABEL2 VARCHAR(255) COLLATE "C" DEFAULT '',
+    LABEL3 VARCHAR(255) COLLATE "C" DEFAULT '',
+    Tax1Name VARCHAR(255) COLLATE "C" DEFAULT '',
+    Tax2Name VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE1_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE2_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE3_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE4_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE5_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE6_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    ALINE7_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    InvFooter_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    InvFooter1_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    RecFooter_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter1_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter2_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    StatementFooter3_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    HandOverFooter_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    LABEL2_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    LABEL3_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    Tax1Name_A VARCHAR(255) COLLATE "C" DEFAULT '',
+    Tax2Name_A VARCHAR(255) COLLATE "C" DEFAULT '',
     Tax1 DOUBLE PRECISION DEFAULT 0,
     Tax2 DOUBLE PRECISION DEFAULT 0
 );
@@ -49,25 +52,25 @@ CREATE TABLE SysInfo (
 -- Vaccination) share one layout: each statement naming @Product@ is run once per table, with
 -- @product@ as its name in lower case; a line starting @Vaccination@ belongs to Vaccination only.
 CREATE TABLE @Product@ (
-    Code VARCHAR(20),
-    Description VARCHAR(100),
-    Description_A VARCHAR(100) DEFAULT '',
+    Code VARCHAR(20) COLLATE "C",
+    Description VARCHAR(100) COLLATE "C",
+    Description_A VARCHAR(100) COLLATE "C" DEFAULT '',
     Schedule INTEGER DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    UnitOfMeasure_A VARCHAR(30) DEFAULT '',
+    UnitOfMeasure VARCHAR(30) COLLATE "C" DEFAULT '',
+    UnitOfMeasure_A VARCHAR(30) COLLATE "C" DEFAULT '',
     Cost DOUBLE PRECISION DEFAULT 0,
     MarkUp DOUBLE PRECISION DEFAULT 0,
     Price DOUBLE PRECISION DEFAULT 0,
-    Tax1 VARCHAR(1) DEFAULT 'Y',
-    Tax2 VARCHAR(1) DEFAULT 'N',
+    Tax1 VARCHAR(1) COLLATE "C" DEFAULT 'Y',
+    Tax2 VARCHAR(1) COLLATE "C" DEFAULT 'N',
     Quantity DOUBLE PRECISION DEFAULT 0,
     ReOrder DOUBLE PRECISION DEFAULT 0,
     ToQuantity DOUBLE PRECISION DEFAULT 0,
     OnOrder DOUBLE PRECISION DEFAULT 0,
-    OrderDate VARCHAR(20) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    Remarks TEXT,
-    Active VARCHAR(1) DEFAULT 'Y'
+    OrderDate VARCHAR(20) COLLATE "C" DEFAULT '',
+    Supplier VARCHAR(100) COLLATE "C" DEFAULT '',
+    Remarks TEXT COLLATE "C",
+    Active VARCHAR(1) COLLATE "C" DEFAULT 'Y'
 @Vaccination@    , DaysToReminder INTEGER DEFAULT 0
 );
 
@@ -78,12 +81,12 @@ CREATE SEQUENCE stocktrace_seq;
 
 CREATE TABLE StockTrace (
     TraceNumber INTEGER NOT NULL DEFAULT nextval('stocktrace_seq') PRIMARY KEY,
-    MyDate VARCHAR(20),
-    SP VARCHAR(50) DEFAULT '',
-    Notes VARCHAR(255) DEFAULT '',
-    Supplier VARCHAR(100) DEFAULT '',
-    InvoiceNumber VARCHAR(50) DEFAULT '',
-    Adjustment VARCHAR(1) DEFAULT 'N'
+    MyDate VARCHAR(20) COLLATE "C",
+    SP VARCHAR(50) COLLATE "C" DEFAULT '',
+    Notes VARCHAR(255) COLLATE "C" DEFAULT '',
+    Supplier VARCHAR(100) COLLATE "C" DEFAULT '',
+    InvoiceNumber VARCHAR(50) COLLATE "C" DEFAULT '',
+    Adjustment VARCHAR(1) COLLATE "C" DEFAULT 'N'
 );
 
 ALTER SEQUENCE stocktrace_seq OWNED BY StockTrace.TraceNumber;
@@ -92,13 +95,13 @@ CREATE INDEX stocktrace_date ON StockTrace (MyDate);
 
 CREATE TABLE StockTraceItem (
     TraceNumber INTEGER,
-    Category VARCHAR(20),
-    Code VARCHAR(20),
+    Category VARCHAR(20) COLLATE "C",
+    Code VARCHAR(20) COLLATE "C",
     Quantity DOUBLE PRECISION DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT '',
-    Description VARCHAR(100) DEFAULT '',
+    UnitOfMeasure VARCHAR(30) COLLATE "C" DEFAULT '',
+    Description VARCHAR(100) COLLATE "C" DEFAULT '',
     Schedule INTEGER DEFAULT 0,
-    Batch VARCHAR(50) DEFAULT ''
+    Batch VARCHAR(50) COLLATE "C" DEFAULT ''
 );
 
 CREATE INDEX stocktraceitem_product ON StockTraceItem (Category, Code);
@@ -106,19 +109,19 @@ CREATE INDEX stocktraceitem_trace ON StockTraceItem (TraceNumber);
 
 CREATE TABLE Owner (
     AccountNumber INTEGER NOT NULL PRIMARY KEY,
-    Title VARCHAR(20) DEFAULT '',
-    Initials VARCHAR(10) DEFAULT '',
-    Surname VARCHAR(100) DEFAULT '',
-    IDno VARCHAR(30) DEFAULT '',
-    TelHome VARCHAR(30) DEFAULT '',
-    TelWork VARCHAR(30) DEFAULT '',
-    Cell VARCHAR(30) DEFAULT '',
-    PhysAddr VARCHAR(255) DEFAULT '',
-    PostalAddr VARCHAR(255) DEFAULT '',
-    Email VARCHAR(100) DEFAULT '',
-    Notes TEXT,
-    BadDebt VARCHAR(1) DEFAULT 'N',
-    Created VARCHAR(20)
+    Title VARCHAR(20) COLLATE "C" DEFAULT '',
+    Initials VARCHAR(10) COLLATE "C" DEFAULT '',
+    Surname VARCHAR(100) COLLATE "C" DEFAULT '',
+    IDno VARCHAR(30) COLLATE "C" DEFAULT '',
+    TelHome VARCHAR(30) COLLATE "C" DEFAULT '',
+    TelWork VARCHAR(30) COLLATE "C" DEFAULT '',
+    Cell VARCHAR(30) COLLATE "C" DEFAULT '',
+    PhysAddr VARCHAR(255) COLLATE "C" DEFAULT '',
+    PostalAddr VARCHAR(255) COLLATE "C" DEFAULT '',
+    Email VARCHAR(100) COLLATE "C" DEFAULT '',
+    Notes TEXT COLLATE "C",
+    BadDebt VARCHAR(1) COLLATE "C" DEFAULT 'N',
+    Created VARCHAR(20) COLLATE "C"
 );
 
 CREATE INDEX owner_created ON Owner (Created);
@@ -127,10 +130,10 @@ CREATE INDEX owner_baddebt ON Owner (BadDebt);
 CREATE TABLE Patient (
     PetNumber INTEGER NOT NULL PRIMARY KEY,
     AccountNumber INTEGER,
-    Name VARCHAR(50) DEFAULT '',
+    Name VARCHAR(50) COLLATE "C" DEFAULT '',
     Weight DOUBLE PRECISION DEFAULT 0,
-    Sex VARCHAR(10) DEFAULT '',
-    Breed VARCHAR(100) DEFAULT ''
+    Sex VARCHAR(10) COLLATE "C" DEFAULT '',
+    Breed VARCHAR(100) COLLATE "C" DEFAULT ''
 );
 
 CREATE INDEX patient_account ON Patient (AccountNumber);
@@ -139,8 +142,8 @@ CREATE TABLE Invoice (
     MyNumber INTEGER NOT NULL PRIMARY KEY,
     AccountNumber INTEGER,
     PetNumber INTEGER,
-    MyDate VARCHAR(20),
-    Status VARCHAR(2) DEFAULT ''
+    MyDate VARCHAR(20) COLLATE "C",
+    Status VARCHAR(2) COLLATE "C" DEFAULT ''
 );
 
 CREATE INDEX invoice_status ON Invoice (Status);
@@ -153,14 +156,14 @@ CREATE INDEX invoice_number_status ON Invoice (MyNumber, Status);
 CREATE TABLE InvoiceItem (
     InvoiceNumber INTEGER,
     Petnumber INTEGER,
-    MyDate VARCHAR(20),
-    Vet VARCHAR(10) DEFAULT '',
-    Category VARCHAR(20),
-    Code VARCHAR(20),
-    Description VARCHAR(100) DEFAULT '',
+    MyDate VARCHAR(20) COLLATE "C",
+    Vet VARCHAR(10) COLLATE "C" DEFAULT '',
+    Category VARCHAR(20) COLLATE "C",
+    Code VARCHAR(20) COLLATE "C",
+    Description VARCHAR(100) COLLATE "C" DEFAULT '',
     Quantity DOUBLE PRECISION DEFAULT 0,
     Price DOUBLE PRECISION DEFAULT 0,
-    UnitOfMeasure VARCHAR(30) DEFAULT ''
+    UnitOfMeasure VARCHAR(30) COLLATE "C" DEFAULT ''
 );
 
 -- A product's lines by date for the reports; with the invoice and quantity in the index, the stock
@@ -174,8 +177,8 @@ CREATE INDEX invoiceitem_pet ON InvoiceItem (Petnumber);
 CREATE TABLE Journal (
     MyNumber INTEGER,
     AccountNumber INTEGER,
-    MyDate VARCHAR(20),
-    Description VARCHAR(100) DEFAULT '',
+    MyDate VARCHAR(20) COLLATE "C",
+    Description VARCHAR(100) COLLATE "C" DEFAULT '',
     Amount DOUBLE PRECISION DEFAULT 0,
     Rounding DOUBLE PRECISION DEFAULT 0
 );
@@ -185,10 +188,10 @@ CREATE INDEX journal_account ON Journal (AccountNumber, MyDate);
 CREATE INDEX journal_date ON Journal (MyDate);
 
 CREATE TABLE Operators (
-    Operator VARCHAR(50) NOT NULL PRIMARY KEY,
-    id VARCHAR(50),
-    Initials VARCHAR(10) DEFAULT '',
-    Diary VARCHAR(1) DEFAULT 'N',
+    Operator VARCHAR(50) COLLATE "C" NOT NULL PRIMARY KEY,
+    id VARCHAR(50) COLLATE "C",
+    Initials VARCHAR(10) COLLATE "C" DEFAULT '',
+    Diary VARCHAR(1) COLLATE "C" DEFAULT 'N',
     Commission DOUBLE PRECISION DEFAULT 0
 );
 
@@ -196,31 +199,31 @@ CREATE INDEX operators_initials ON Operators (Initials);
 
 CREATE TABLE Permissions (
     keynum SERIAL PRIMARY KEY,
-    Operator VARCHAR(50),
-    Class VARCHAR(50),
-    Description VARCHAR(100)
+    Operator VARCHAR(50) COLLATE "C",
+    Class VARCHAR(50) COLLATE "C",
+    Description VARCHAR(100) COLLATE "C"
 );
 
 CREATE INDEX permissions_operator ON Permissions (Operator);
 
 CREATE TABLE Supply (
     keynum SERIAL PRIMARY KEY,
-    Company VARCHAR(100) DEFAULT '',
-    Contact VARCHAR(100) DEFAULT '',
-    Email VARCHAR(100) DEFAULT '',
-    Tel VARCHAR(30) DEFAULT '',
-    Fax VARCHAR(30) DEFAULT '',
-    Cell VARCHAR(30) DEFAULT '',
-    PostalAddr VARCHAR(255) DEFAULT '',
-    PhysicalAddr VARCHAR(255) DEFAULT '',
-    Lab VARCHAR(1) DEFAULT 'N'
+    Company VARCHAR(100) COLLATE "C" DEFAULT '',
+    Contact VARCHAR(100) COLLATE "C" DEFAULT '',
+    Email VARCHAR(100) COLLATE "C" DEFAULT '',
+    Tel VARCHAR(30) COLLATE "C" DEFAULT '',
+    Fax VARCHAR(30) COLLATE "C" DEFAULT '',
+    Cell VARCHAR(30) COLLATE "C" DEFAULT '',
+    PostalAddr VARCHAR(255) COLLATE "C" DEFAULT '',
+    PhysicalAddr VARCHAR(255) COLLATE "C" DEFAULT '',
+    Lab VARCHAR(1) COLLATE "C" DEFAULT 'N'
 );
 
 CREATE INDEX supply_company ON Supply (Company);
 
 CREATE TABLE AutoProc (
     Code SERIAL PRIMARY KEY,
-    Description VARCHAR(100) DEFAULT ''
+    Description VARCHAR(100) COLLATE "C" DEFAULT ''
 );
 
 CREATE INDEX autoproc_description ON AutoProc (Description);
@@ -228,16 +231,16 @@ CREATE INDEX autoproc_description ON AutoProc (Description);
 CREATE TABLE AutoProcContents (
     id SERIAL PRIMARY KEY,
     ProcId INTEGER,
-    Category VARCHAR(20),
-    Code VARCHAR(20),
+    Category VARCHAR(20) COLLATE "C",
+    Code VARCHAR(20) COLLATE "C",
     Quantity DOUBLE PRECISION DEFAULT 0,
-    Charge VARCHAR(1) DEFAULT 'Y'
+    Charge VARCHAR(1) COLLATE "C" DEFAULT 'Y'
 );
 
 CREATE INDEX autoproccontents_proc ON AutoProcContents (ProcId);
 
 CREATE TABLE breeds (
     keynum SERIAL PRIMARY KEY,
-    Description VARCHAR(100) DEFAULT '',
-    Description_A VARCHAR(100) DEFAULT ''
+    Description VARCHAR(100) COLLATE "C" DEFAULT '',
+    Description_A VARCHAR(100) COLLATE "C" DEFAULT ''
 );
