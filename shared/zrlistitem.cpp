@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QTreeWidget>
 
+ZrListItem::ZrListItem() = default;
+
 ZrListItem::ZrListItem(QTreeWidget *list)
     : QTreeWidgetItem(list)
 {

@@ -8,6 +8,8 @@
 class ZrListItem : public QTreeWidgetItem
 {
 public:
+    // A row not yet in a list, for adding many rows at once (QTreeWidget::addTopLevelItems).
+    ZrListItem();
     explicit ZrListItem(QTreeWidget *list);
     ZrListItem(QTreeWidget *list, QTreeWidgetItem *after);
 
