@@ -2,6 +2,7 @@
 
 #include "globals.h"
 #include "prompter.h"
+#include "reportframe.h"
 #include "utility.h"
 #include "validators.h"
 #include "zrrichtext.h"
@@ -117,8 +118,10 @@ void Admin::init()
     reloadData();
     refreshSuppliers();
     reloadAutoProcs();
-    ui.DateEdit1->setDate(QDate::currentDate().addMonths(-1));
+    ui.DateEdit1->setDate(QDate::currentDate());
     ui.DateEdit2->setDate(QDate::currentDate());
+    ReportFrame::resetColumns(ui.report_list);
+    reportMode(ui.type_combo->currentIndex()); // the first report's inputs, before any is chosen
 }
 
 void Admin::sizeListColumns()

@@ -11,7 +11,9 @@ class ZrRichText;
 
 // The administration window. The form (admin.ui) holds the widgets; each tab's behaviour lives
 // in a source of its own: practice.cpp, products.cpp, pricing.cpp, productedit.cpp,
-// stocktrace.cpp, noteeditor.cpp, users.cpp, reports.cpp, suppliers.cpp, autoprocs.cpp.
+// stocktrace.cpp, noteeditor.cpp, users.cpp, suppliers.cpp, autoprocs.cpp; the report writer in
+// reports.cpp with its frame (reportframe.cpp), its generators (salesreports.cpp,
+// clientreports.cpp, stockreports.cpp) and its output (reportoutput.cpp).
 class Admin : public QMainWindow
 {
     Q_OBJECT
@@ -29,6 +31,16 @@ public:
 
     ZrRichText *reportViewer() const { return viewer; }
     QSqlTableModel *breedsModel() const { return breeds; }
+
+    // The report writer's state (the generators, the output slots and the tools that drive the
+    // window read it here).
+    struct ReportState {
+        int clearedIndex = -1; // the report for which the list was last cleared; -1 matches none
+        QString subtitle;      // emptied by processQuery; a generator may set it
+        qint32 lastPage = 0;   // the list's last page, from 0
+        qint32 currentPage = 0;
+    };
+    ReportState report;
 
 public slots:
     virtual void polish();
@@ -90,7 +102,7 @@ public slots:
     virtual void updateAutoProcContents();
     virtual void deleteAutoProcContents();
     virtual void updateUserId();
-    virtual void tableViewLoad();
+    virtual QString tableViewLoad();
     virtual void tableViewAction(void *action);
     virtual void showHelp();
     virtual void taxingChanged();
