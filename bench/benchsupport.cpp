@@ -1,6 +1,7 @@
 #include "benchsupport.h"
 
 #include "connection.h"
+#include "connectionoptions.h"
 #include "dialect.h"
 #include "globals.h"
 #include "utility.h"
@@ -88,29 +89,16 @@ void addOptions(QCommandLineParser &parser, const QString &description)
     parser.setApplicationDescription(description);
     parser.addHelpOption();
     parser.addOptions({{"settings", "Settings file (INI) with the /Global/DB* keys.", "file"},
-                       {"driver", "QSQLITE, QMYSQL3 or QPSQL7.", "name"},
-                       {"host", "Database server.", "host"},
-                       {"port", "Database port.", "port"},
-                       {"database", "Database name (SQLite: the file).", "name"},
-                       {"user", "Database user.", "user"},
-                       {"password", "Database password.", "password"},
                        {"runs", "Runs of each step (the median is shown).", "N", "5"}});
+    ConnectionOptions::add(parser);
 }
 
-// The suite's own keys, from a settings file or written from the options into a temporary one.
+// The keys of the settings file, if one is given, with the options over them.
 static QSettings *openSettings(const QCommandLineParser &parser)
 {
-    if (parser.isSet("settings"))
-        return new QSettings(parser.value("settings"), QSettings::IniFormat);
     scratch = new QTemporaryDir;
-    auto *store = new QSettings(scratch->filePath("Quorel.conf"), QSettings::IniFormat);
-    const QList<QPair<QString, QString>> keys{{"driver", "/Global/DBDriver"}, {"host", "/Global/DBServer"},
-                                              {"port", "/Global/DBPort"},     {"database", "/Global/DBName"},
-                                              {"user", "/Global/DBUser"},     {"password", "/Global/DBPassword"}};
-    for (const auto &key : keys)
-        if (parser.isSet(key.first))
-            store->setValue(key.second, parser.value(key.first));
-    return store;
+    const QSettings source(parser.value("settings"), QSettings::IniFormat);
+    return ConnectionOptions::effectiveSettings(parser, source, scratch->filePath("Quorel.conf"));
 }
 
 bool open(const QCommandLineParser &parser, QString *error)
