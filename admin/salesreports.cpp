@@ -135,7 +135,8 @@ QString operatorSalesSql(const QString &category, const QDate &start, const QDat
         .arg(ofOperator("Operators.Operator"), category, ReportFrame::sqlDate(start), ReportFrame::sqlDate(end));
 }
 
-// The declared shape of a report's columns, kept for a later report format; nothing reads it yet.
+// The declared shape of a report's columns, kept for a later report format: composed and dropped,
+// as nothing reads it yet.
 QString reportDefinition(const QString &title, const QList<ReportFrame::Column> &columns)
 {
     QString text = "<zephron>\n  <head\n    type=\"report\"\n    title=\"" + title + "\"\n"
@@ -146,6 +147,18 @@ QString reportDefinition(const QString &title, const QList<ReportFrame::Column> 
             text += QString("    col%1align=\"right\"\n").arg(i);
     }
     return text + " />\n";
+}
+
+// Amounts as the reports show them, one cell each, and their total.
+template <typename List> QStringList amountCells(const List &amounts, double *total)
+{
+    QStringList cells;
+    *total = 0.0;
+    for (double amount : amounts) {
+        *total += amount;
+        cells << Utility::numStr(amount, 2);
+    }
+    return cells;
 }
 
 // Names in code point order, the same on every engine and in every run.
@@ -183,15 +196,11 @@ void Admin::processDispenseTotals(const char *category, bool stocked)
         const QString description = products.value(0).toString();
         frame.status(tr("Processing %1").arg(description));
         QCoreApplication::processEvents();
-        const Amounts product = amounts.value(ReportFrame::codeKey(products.value(1).toString()), Amounts{});
         double total = 0.0;
-        QStringList cells{description};
-        for (double amount : product) {
-            total += amount;
-            cells << Utility::numStr(amount, 2);
-        }
+        const QStringList cells =
+            amountCells(amounts.value(ReportFrame::codeKey(products.value(1).toString()), Amounts{}), &total);
         if (total != 0.0)
-            frame.addRow(cells);
+            frame.addRow(QStringList{description} + cells);
     }
 }
 
@@ -233,7 +242,7 @@ void Admin::processCommission()
 {
     ReportFrame frame(this);
     (void)reportDefinition(tr("Goods Sales Commission Report"),
-                     {{tr("Sales Person")}, {tr("Total Sales."), 0, true}, {tr("Commission"), 0, true}});
+                           {{tr("Sales Person")}, {tr("Total Sales."), 0, true}, {tr("Commission"), 0, true}});
     frame.wait();
     frame.setColumns({{tr("Sales Person"), 150}, {tr("Total Sales."), 150}, {tr("Commission"), 150, true}});
     const QString sql =
@@ -267,7 +276,7 @@ void Admin::processPersonnelPerformance()
     frame.setColumns(columns);
 
     struct perfValues {
-        double amount[9] = {};
+        std::array<double, 9> amount{}; // one per category, in column order
     };
     QHash<QString, perfValues> people;
     for (int c = 0; c < categories.size(); ++c) {
@@ -281,14 +290,10 @@ void Admin::processPersonnelPerformance()
     std::sort(names.begin(), names.end(), byCodePoint);
     double grandTotal = 0.0;
     for (const QString &name : names) {
-        QStringList cells{name};
         double total = 0.0;
-        for (double amount : people.value(name).amount) {
-            total += amount;
-            cells << Utility::numStr(amount, 2);
-        }
+        const QStringList cells = amountCells(people.value(name).amount, &total);
         grandTotal += total;
-        frame.addRow(cells << Utility::numStr(total, 2));
+        frame.addRow(QStringList{name} + cells << Utility::numStr(total, 2));
     }
     QStringList last{tr("Grand Total")};
     for (int c = 0; c < categories.size(); ++c)

@@ -72,6 +72,22 @@ bool loadInvoiceLines(ReportFrame &frame, const QString &period, QHash<QString, 
     return true;
 }
 
+// A row of the stock levels: the product as stored, its quantity followed by the traced level in
+// brackets (and the row marked) where the two differ to the cent.
+void addStockLevel(ReportFrame &frame, const QSqlQuery &product, double level)
+{
+    QString quantity = Utility::numStr(product.value(5).toDouble(), 2);
+    const bool differs = quantity != Utility::numStr(level, 2);
+    if (differs)
+        quantity += "(" + Utility::numStr(level, 2) + ")";
+    ZrListItem *item = frame.addRow({product.value(0).toString(), product.value(1).toString(),
+                                     product.value(2).toString(), Utility::numStr(product.value(3).toDouble(), 2),
+                                     Utility::numStr(product.value(4).toDouble(), 2), quantity,
+                                     Utility::numStr(product.value(6).toDouble(), 2)});
+    if (differs)
+        item->setAltVisual(1);
+}
+
 } // namespace
 
 void Admin::processStock()
@@ -80,13 +96,14 @@ void Admin::processStock()
     ReportFrame frame(this);
     frame.setColumns({{tr("Code"), 50}, {tr("Item"), 285}, {tr("UOM"), 100}, {tr("Price"), 80, true},
                       {tr("Cost"), 80, true}, {tr("Quantity"), 80, true}, {tr("Value OH"), 80, true}});
+    const QString caption = tr("Quorel Stock Levels");
     bool ok = false;
-    const QString category = Prompter::current()->getItem(this, tr("Quorel Stock Levels"), tr("Choose a category"),
-                                                          stockCategories, 0, true, &ok);
+    const QString category =
+        Prompter::current()->getItem(this, caption, tr("Choose a category"), stockCategories, 0, true, &ok);
     if (!ok)
         return;
     if (!isTableName(category)) {
-        Prompter::warn(this, tr("Quorel Stock Levels"),
+        Prompter::warn(this, caption,
                        tr("\"%1\" is not the name of a table.\nA category is a product table's name: letters, "
                           "digits and underscores, not beginning with a digit.")
                            .arg(category));
@@ -106,17 +123,7 @@ void Admin::processStock()
         return;
     while (query.next()) {
         const double quantity = query.value(5).toDouble();
-        const double level = traced ? levels.value(ReportFrame::codeKey(query.value(0).toString())) : quantity;
-        QString shown = Utility::numStr(quantity, 2);
-        const bool differs = shown != Utility::numStr(level, 2);
-        if (differs)
-            shown += "(" + Utility::numStr(level, 2) + ")";
-        ZrListItem *item = frame.addRow({query.value(0).toString(), query.value(1).toString(), query.value(2).toString(),
-                                         Utility::numStr(query.value(3).toDouble(), 2),
-                                         Utility::numStr(query.value(4).toDouble(), 2), shown,
-                                         Utility::numStr(query.value(6).toDouble(), 2)});
-        if (differs)
-            item->setAltVisual(1);
+        addStockLevel(frame, query, traced ? levels.value(ReportFrame::codeKey(query.value(0).toString())) : quantity);
     }
 }
 
@@ -138,7 +145,7 @@ void Admin::processDailyActivity()
 {
     ReportFrame frame(this);
     frame.wait();
-    frame.setColumns({{tr("Date"), 80}, {tr("Invoice No."), 80}, {tr("Client"), 200}, {tr("Patient"), 250},
+    frame.setColumns({{tr("Date"), 90}, {tr("Invoice No."), 80}, {tr("Client"), 200}, {tr("Patient"), 250},
                       {tr("Vet"), 50}, {tr("Category"), 90}, {tr("Quantity"), 70, true}, {tr("UOM"), 70},
                       {tr("Description"), 285}});
     const QString period = "Invoice.MyDate>='" + ReportFrame::sqlDate(frame.start()) + "' AND Invoice.MyDate<='"

@@ -329,7 +329,7 @@ private slots:
         Admin *admin = TestSupport::makeAdmin();
         process(admin, DailyActivity, {}, start, end);
         QCOMPARE(ReportPractice::columns(admin),
-                 QStringList({"Date/80/auto", "Invoice No./80/auto", "Client/200/auto", "Patient/250/auto", "Vet/50/auto",
+                 QStringList({"Date/90/auto", "Invoice No./80/auto", "Client/200/auto", "Patient/250/auto", "Vet/50/auto",
                               "Category/90/auto", "Quantity/70/right", "UOM/70/auto", "Description/285/auto"}));
         QCOMPARE(ReportPractice::rows(admin), rows);
         QList<int> looks;
