@@ -50,6 +50,8 @@ public:
     // Shows the rows added so far (the frame's end does it too).
     void flush();
     // Runs a statement; false when it failed (shown through showDBError) and the report must stop.
+    // The query is forward-only, and PostgreSQL's driver then fetches rows as they are read: the
+    // next statement run loses the rest, so read one statement's rows before running another.
     bool run(QSqlQuery &query, const QString &sql);
 
     // The start and end dates of the tab.
