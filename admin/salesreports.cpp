@@ -107,13 +107,14 @@ bool loadPeriodAmounts(ReportFrame &frame, const QString &sql, QHash<QString, Am
 }
 
 // Every client's name as the reports show it, by account number, in one statement.
-bool loadClients(ReportFrame &frame, QHash<QString, QString> *clients)
+bool loadClients(ReportFrame &frame, QHash<qint64, QString> *clients)
 {
     QSqlQuery query;
     if (!frame.run(query, "SELECT AccountNumber,Surname," + ReportFrame::titleAndInitials("Owner") + " FROM Owner"))
         return false;
+    clients->reserve(query.size() > 0 ? query.size() : 0);
     while (query.next())
-        clients->insert(query.value(0).toString(), ReportFrame::client(query.value(1), query.value(2)));
+        clients->insert(query.value(0).toLongLong(), ReportFrame::client(query.value(1), query.value(2)));
     return true;
 }
 
@@ -225,15 +226,14 @@ void Admin::processProductSales()
         "AND EXISTS (SELECT 1 FROM Journal WHERE Journal.Description='I' OR Journal.Description='RF') "
         "GROUP BY InvoiceItem.Description, Patient.AccountNumber "
         "ORDER BY InvoiceItem.Description, Quantity, Patient.AccountNumber";
-    QHash<QString, QString> clients;
+    QHash<qint64, QString> clients;
     QSqlQuery query;
     if (!loadClients(frame, &clients) || !frame.run(query, sales))
         return;
     while (query.next()) {
-        const QString account = query.value(0).toString();
-        const auto client = clients.constFind(account);
+        const auto client = clients.constFind(query.value(0).toLongLong());
         if (client != clients.constEnd()) // a patient whose account has no client is nobody's purchase
-            frame.addRow({*client, account, query.value(1).toString(), query.value(2).toString(),
+            frame.addRow({*client, query.value(0).toString(), query.value(1).toString(), query.value(2).toString(),
                           ReportFrame::plainNumber(query.value(3).toDouble())});
     }
 }
