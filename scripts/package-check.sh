@@ -27,7 +27,7 @@ fault() {
 }
 
 # The line of `dpkg-deb -c` for an absolute path: "<mode> <owner> <path>[ -> <target>]".
-entry() { grep -E "^[^ ]+ [^ ]+ $1( -> .*)?\$" "$work/contents" || true; }
+entry() { awk -v path="$1" '$3 == path' "$work/contents"; }
 
 expect_file() { # path
     [[ $(entry "$1") == -* ]] || fault "$1 is not in the package as a file"
