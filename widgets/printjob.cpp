@@ -20,6 +20,8 @@ QPrinter *make(QPrinter::PrinterMode mode)
     printer->setCreator(creator());
     // Named before the set-up, so that a print to file offers "Quorel_Report.pdf".
     printer->setDocName(name());
+    // Room that any printer can print on: a PDF would otherwise run to the paper's edge.
+    printer->setPageMargins(QMarginsF(10, 10, 10, 10), QPageLayout::Millimeter);
     return printer;
 }
 
