@@ -63,18 +63,8 @@ QStringList numbered(int from, int to)
     return names;
 }
 
-// The first cell of every row of a page.
-QStringList rowNames(const QString &html)
-{
-    QStringList names;
-    const QRegularExpression cell("<tr[^>]*><td align=\\w+>([^<]*)</td>");
-    for (auto m = cell.globalMatch(html); m.hasNext();)
-        names << m.next().captured(1);
-    return names;
-}
-
-// The rows "Row i" a printed page shows.
-QStringList printedRows(const QString &page)
+// The rows "Row i" that a page shows, in its HTML or on paper.
+QStringList rowsShown(const QString &page)
 {
     QStringList names;
     const QRegularExpression name("\\bRow (\\d+)\\b");
@@ -154,7 +144,7 @@ private slots:
         int first = 1;
         for (int page = 0; page < perPage.size(); ++page) {
             QCOMPARE(admin->report.currentPage, page);
-            QCOMPARE(rowNames(viewer->text()), numbered(first, first + perPage.at(page) - 1));
+            QCOMPARE(rowsShown(viewer->text()), numbered(first, first + perPage.at(page) - 1));
             QCOMPARE(viewerButton(admin, "prevButton")->isEnabled(), page > 0);
             QCOMPARE(viewerButton(admin, "nextButton")->isEnabled(), page < perPage.size() - 1);
             first += perPage.at(page);
@@ -237,7 +227,7 @@ private slots:
             QCOMPARE(admin->reportViewer()->text(), before);
             QVERIFY(viewerButton(admin, "prevButton")->isEnabled() && viewerButton(admin, "nextButton")->isEnabled());
         } else {
-            QCOMPARE(rowNames(admin->reportViewer()->text()).value(0), QString("Row %1").arg(to * 53 + 1));
+            QCOMPARE(rowsShown(admin->reportViewer()->text()).value(0), QString("Row %1").arg(to * 53 + 1));
             QVERIFY(viewerButton(admin, "prevButton")->isEnabled() && viewerButton(admin, "nextButton")->isEnabled());
         }
     }
@@ -291,7 +281,7 @@ private slots:
         for (int i = 0; i < printed.size(); ++i) {
             const int first = (printed.at(i) - 1) * perPage + 1;
             QVERIFY(pages.at(i).contains("Test Practice"));
-            QCOMPARE(printedRows(pages.at(i)), numbered(first, qMin(first + perPage - 1, rows)));
+            QCOMPARE(rowsShown(pages.at(i)), numbered(first, qMin(first + perPage - 1, rows)));
         }
         QCOMPARE(QFile::exists(pdf), !printed.isEmpty());
         if (!printed.isEmpty()) {
