@@ -84,54 +84,60 @@ double listExpenditure(ReportFrame &frame, QSqlQuery &query, const QString &titl
     return sum;
 }
 
-// The date condition of period `period` (0 the most recent) as of `today`. An entry without a date
-// counts as the oldest.
+// The date condition, as of `today`, of period `period` (0 the most recent) among the entries of
+// the last four periods.
 QString periodCondition(int period, const QDate &today)
 {
     const auto since = [&](int p) { return ReportFrame::sqlDate(today.addDays(-(PeriodDays * (p + 1) - 1))); };
-    if (period == Periods - 1)
-        return "COALESCE(MyDate,'')<'" + since(period - 1) + "'";
-    QString condition = "MyDate>='" + since(period) + "'";
+    QStringList condition;
+    if (period < Periods - 2)
+        condition << "MyDate>='" + since(period) + "'";
     if (period > 0)
-        condition += " AND MyDate<'" + since(period - 1) + "'";
-    return condition;
+        condition << "MyDate<'" + since(period - 1) + "'";
+    return condition.join(" AND ");
 }
 
 // Per client with an open balance over every entry but 'Q' and 'VR' (more than 0.01 either way):
-// name, account, balance, then what was charged (entries above 0) in each period from the most
-// recent on, then what was paid or credited (entries below 0) in each.
+// name, account, balance, then what was charged (entries above 0) in each of the four recent
+// periods from the most recent on, then what was paid or credited (entries below 0) in each. The
+// last period needs no sums of its own: it holds whatever the recent ones do not, and the
+// recent ones are read from the recent entries only.
 QString balancesStatement(const QDate &today)
 {
     const QString value = "Amount-Rounding";
-    QStringList sums;
+    const QString counted = "Description!='Q' AND Description!='VR'";
+    QStringList sums, columns;
     for (const QString &side : {QString("Charged"), QString("Paid")}) {
-        for (int period = 0; period < Periods; ++period)
-            sums << QString("SUM(CASE WHEN %1%2 AND %3 THEN %1 ELSE 0 END) AS %4%5")
-                        .arg(value, side == "Charged" ? ">0" : "<0", periodCondition(period, today), side)
-                        .arg(period);
+        for (int period = 0; period < Periods - 1; ++period) {
+            const QString name = side + QString::number(period);
+            sums << QString("SUM(CASE WHEN %1%2 AND %3 THEN %1 ELSE 0 END) AS %4")
+                        .arg(value, side == "Charged" ? ">0" : "<0", periodCondition(period, today), name);
+            columns << name;
+        }
     }
-    QStringList outer;
-    for (const QString &side : {QString("Charged"), QString("Paid")})
-        for (int period = 0; period < Periods; ++period)
-            outer << side + QString::number(period);
-    return "SELECT " + nameColumns() + ",AccountNumber,Balance," + outer.join(',') + " FROM Owner,"
-           "(SELECT AccountNumber AS Account,SUM(" + value + ") AS Balance," + sums.join(',') + " FROM Journal "
-           "WHERE Description!='Q' AND Description!='VR' GROUP BY AccountNumber "
-           "HAVING SUM(" + value + ")>0.01 OR SUM(" + value + ")<-0.01) Balances "
-           "WHERE Owner.AccountNumber=Balances.Account";
+    const QString recent = ReportFrame::sqlDate(today.addDays(-(PeriodDays * (Periods - 1) - 1)));
+    return "SELECT " + nameColumns() + ",AccountNumber,Balance," + columns.join(',') + " FROM Owner "
+           "JOIN (SELECT AccountNumber AS Account,SUM(" + value + ") AS Balance FROM Journal WHERE " + counted
+           + " GROUP BY AccountNumber HAVING SUM(" + value + ")>0.01 OR SUM(" + value + ")<-0.01) Balances "
+           "ON Owner.AccountNumber=Balances.Account "
+           "LEFT JOIN (SELECT AccountNumber AS Recent," + sums.join(',') + " FROM Journal WHERE MyDate>='" + recent
+           + "' AND " + counted + " GROUP BY AccountNumber) Periods ON Periods.Recent=Balances.Account";
 }
 
 // A balance's part in each period. Payments settle the oldest charges first, so what is still
 // owed sits on the most recent charges; a credit likewise sits on the most recent payments.
-// `entries` are what was charged (a debt) or paid (a credit) per period, from column `first` on.
+// What was charged (a debt) or paid (a credit) in the recent periods comes from column `first` on.
 QList<double> aged(double balance, const QSqlQuery &query, int first)
 {
     const bool credit = balance < 0;
     double open = credit ? -balance : balance;
     QList<double> parts;
     for (int period = 0; period < Periods; ++period) {
-        const double entries = query.value(first + (credit ? Periods : 0) + period).toDouble();
-        const double part = std::min(open, credit ? -entries : entries);
+        double part = open;
+        if (period < Periods - 1) {
+            const double entries = query.value(first + (credit ? Periods - 1 : 0) + period).toDouble();
+            part = std::min(open, credit ? -entries : entries);
+        }
         open -= part;
         parts << (credit ? 0.0 - part : part);
     }
