@@ -37,6 +37,21 @@ QString clientName(const QSqlQuery &query, int column)
     return Utility::rot13(query.value(column).toString()) + query.value(column + 1).toString();
 }
 
+// The fields `first` to `last` of the query's row, as text.
+QStringList fields(const QSqlQuery &query, int first, int last)
+{
+    QStringList texts;
+    for (int column = first; column <= last; ++column)
+        texts << query.value(column).toString();
+    return texts;
+}
+
+// The telephone numbers of the client lists: home, work and cell.
+Columns telephoneColumns()
+{
+    return {{Admin::tr("Home Tel."), 92}, {Admin::tr("Work Tel."), 92}, {Admin::tr("Cellular."), 92}};
+}
+
 QString money(double value)
 {
     return Utility::numStr(value, 2);
@@ -182,13 +197,8 @@ void Admin::processNewOwnersDetailed()
 {
     ReportFrame frame(this);
     frame.wait();
-    frame.setColumns({{tr("Client"), 170},
-                      {tr("Acc No."), 55},
-                      {tr("Initial Visit"), 78},
-                      {tr("Home Tel."), 92},
-                      {tr("Work Tel."), 92},
-                      {tr("Cellular."), 92},
-                      {tr("Email Address"), 150}});
+    frame.setColumns(Columns{{tr("Client"), 150}, {tr("Acc No."), 55}, {tr("Initial Visit"), 78}}
+                     + telephoneColumns() + Columns{{tr("Email Address"), 170}});
     QSqlQuery query;
     if (!frame.run(query, "SELECT " + nameColumns() + ",TelHome,TelWork,Cell,Email,AccountNumber,Created FROM Owner "
                           "WHERE Created >= '" + ReportFrame::sqlDate(frame.start()) + "' AND Created <= '"
@@ -196,9 +206,7 @@ void Admin::processNewOwnersDetailed()
         return;
     int clients = 0;
     while (query.next()) {
-        frame.addRow({clientName(query, 0), query.value(6).toString(), query.value(7).toString(),
-                      query.value(2).toString(), query.value(3).toString(), query.value(4).toString(),
-                      query.value(5).toString()});
+        frame.addRow(QStringList{clientName(query, 0)} + fields(query, 6, 7) + fields(query, 2, 5));
         ++clients;
     }
     frame.addRow({tr("Number of Clients"), QString::number(clients)});
@@ -266,16 +274,10 @@ void Admin::processBadDebtors()
 {
     ReportFrame frame(this);
     frame.wait();
-    frame.setColumns({{tr("Acc No."), 55},
-                      {tr("Client"), 150},
-                      {tr("Balance"), 75, true},
-                      {tr("Identity No."), 107},
-                      {tr("Home Tel."), 92},
-                      {tr("Work Tel."), 92},
-                      {tr("Cellular."), 92},
-                      {tr("Physical Address"), 120},
-                      {tr("Postal Address"), 100},
-                      {tr("Notes"), 150}});
+    frame.setColumns(Columns{{tr("Acc No."), 55}, {tr("Client"), 150}, {tr("Balance"), 75, true},
+                             {tr("Identity No."), 107}}
+                     + telephoneColumns()
+                     + Columns{{tr("Physical Address"), 120}, {tr("Postal Address"), 100}, {tr("Notes"), 150}});
     QSqlQuery query;
     if (!frame.run(query, "SELECT Owner.AccountNumber," + nameColumns() + ",SUM(Amount-Rounding) AS Balance,"
                           "IDno,TelHome,TelWork,Cell,PhysAddr,PostalAddr,Notes FROM Owner,Journal "
@@ -286,10 +288,8 @@ void Admin::processBadDebtors()
     double total = 0.0;
     while (query.next()) {
         const double balance = query.value(3).toDouble();
-        QStringList row{query.value(0).toString(), clientName(query, 1), money(balance)};
-        for (int column = 4; column <= 10; ++column)
-            row << query.value(column).toString();
-        frame.addRow(row);
+        frame.addRow(QStringList{query.value(0).toString(), clientName(query, 1), money(balance)}
+                     + fields(query, 4, 10));
         total += balance;
     }
     frame.addRow({QString(), tr("Grand Total"), money(total)});
@@ -299,16 +299,11 @@ void Admin::processAllOwners()
 {
     ReportFrame frame(this);
     frame.wait();
-    frame.setColumns({{tr("Client"), 150},
-                      {tr("Acc. #"), 48},
-                      {tr("Identity No."), 107},
-                      {tr("Home Tel."), 92},
-                      {tr("Work Tel."), 92},
-                      {tr("Cellular."), 92},
-                      {tr("Physical Address"), 120},
-                      {tr("Postal Address"), 100},
-                      {tr("Email Address"), 140},
-                      {tr("Last Visit"), 78}});
+    frame.setColumns(Columns{{tr("Client"), 150}, {tr("Acc. #"), 48}, {tr("Identity No."), 107}} + telephoneColumns()
+                     + Columns{{tr("Physical Address"), 120},
+                               {tr("Postal Address"), 100},
+                               {tr("Email Address"), 140},
+                               {tr("Last Visit"), 78}});
     QSqlQuery query;
     // Each client's last visit within the one statement: the journal's index by account and date
     // gives it at once.
@@ -318,9 +313,7 @@ void Admin::processAllOwners()
         return;
     QList<QStringList> rows;
     while (query.next()) {
-        QStringList row{clientName(query, 0)};
-        for (int column = 3; column <= 10; ++column)
-            row << query.value(column).toString();
+        QStringList row = QStringList{clientName(query, 0)} + fields(query, 3, 10);
         const QString visit = query.value(2).toString();
         row << (visit.isEmpty() ? tr("Unknown") : visit);
         rows << row;
