@@ -1,8 +1,9 @@
 #!/bin/sh
 # Generates the large practice (quorel-db bench --scale 100, about 1,000,000 invoice lines) once
-# and times the dispense tab's stock work on it with quorel-stockbench.
+# and runs a benchmark on it: the dispense tab's stock work (quorel-stockbench) or every report of
+# the Reports tab (quorel-reportbench).
 #
-#   bench/run.sh sqlite|mariadb|postgres [runs]
+#   bench/run.sh sqlite|mariadb|postgres [runs] [stock|reports] [more options of the benchmark]
 #
 # BUILD     the build directory (default: build beside the sources)
 # BENCH_DIR where the SQLite file and the markers of generated server databases live
@@ -11,8 +12,18 @@
 # Servers:  QUOREL_MARIADB_HOST/PORT/USER/PASSWORD/DATABASE, QUOREL_PG_HOST/PORT/USER/PASSWORD/DATABASE
 #           (as scripts/dbservers.sh sets them); the database must exist and may be emptied.
 set -eu
-engine=${1:?usage: bench/run.sh sqlite|mariadb|postgres [runs]}
+engine=${1:?usage: bench/run.sh sqlite|mariadb|postgres [runs] [stock|reports] [options]}
 runs=${2:-5}
+which=${3:-stock}
+shift $(($# < 3 ? $# : 3))
+extra="$*"
+case $which in
+stock) program=quorel-stockbench ;;
+reports) program=quorel-reportbench ;;
+*)
+    echo "unknown benchmark $which (stock or reports)" >&2
+    exit 2 ;;
+esac
 here=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD:-$here/build}
 dir=${BENCH_DIR:-/tmp/quorel-bench}
@@ -43,4 +54,5 @@ if [ ! -e "$data" ]; then
     "$build/tools/quorel-db" bench --scale "$scale" --replace "$@"
     [ "$engine" = sqlite ] || touch "$data"
 fi
-QT_QPA_PLATFORM=offscreen "$build/bench/quorel-stockbench" --runs "$runs" "$@"
+# shellcheck disable=SC2086
+QT_QPA_PLATFORM=offscreen "$build/bench/$program" --runs "$runs" "$@" $extra

@@ -3,115 +3,26 @@
 // selecting the busiest product with "Analyse Stock On Select" on, and its stock level trace
 // (answered "Close"). Each step runs several times; the table gives the median.
 #include "admin.h"
-#include "connection.h"
-#include "dialect.h"
+#include "benchsupport.h"
 #include "globals.h"
-#include "prompter.h"
-#include "utility.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QElapsedTimer>
-#include <QSettings>
 #include <QSqlDatabase>
-#include <QSqlError>
+#include <QSettings>
 #include <QSqlQuery>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 #include <algorithm>
 #include <cstdio>
-#include <functional>
 
 namespace {
 
-// Answers every box with its first button ("Close" for the trace) and rejects every dialog;
-// keeps the last message so the figures can be printed.
-class BenchPrompter : public Prompter
-{
-public:
-    QString lastText;
-    int message(QWidget *, Icon, const QString &, const QString &text, const QStringList &, int, int) override
-    {
-        lastText = text;
-        return 0;
-    }
-    QString getText(QWidget *, const QString &, const QString &, QLineEdit::EchoMode, const QString &,
-                    bool *ok) override
-    {
-        *ok = false;
-        return {};
-    }
-    QString getItem(QWidget *, const QString &, const QString &, const QStringList &, int, bool, bool *ok) override
-    {
-        *ok = false;
-        return {};
-    }
-    int getInt(QWidget *, const QString &, const QString &, int value, int, int, int, bool *ok) override
-    {
-        *ok = false;
-        return value;
-    }
-    QString getSaveFileName(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
-    int exec(QDialog *) override { return 0; }
-    bool setupPrinter(QPrinter *, QWidget *) override { return false; }
-};
+using BenchSupport::Timing;
+using BenchSupport::measure;
 
 int fail(const QString &text)
 {
-    std::fprintf(stderr, "quorel-stockbench: %s\n", qPrintable(text));
-    return 1;
-}
-
-// The suite's own keys, from a settings file or written from the options into a temporary one.
-QSettings *openSettings(const QCommandLineParser &parser, const QTemporaryDir &dir)
-{
-    if (parser.isSet("settings"))
-        return new QSettings(parser.value("settings"), QSettings::IniFormat);
-    auto *store = new QSettings(dir.filePath("Quorel.conf"), QSettings::IniFormat);
-    const QList<QPair<QString, QString>> keys{{"driver", "/Global/DBDriver"}, {"host", "/Global/DBServer"},
-                                              {"port", "/Global/DBPort"},     {"database", "/Global/DBName"},
-                                              {"user", "/Global/DBUser"},     {"password", "/Global/DBPassword"}};
-    for (const auto &key : keys)
-        if (parser.isSet(key.first))
-            store->setValue(key.second, parser.value(key.first));
-    return store;
-}
-
-// Opened as the program opens it at start-up.
-bool openDatabase(QString *error)
-{
-    QSqlDatabase db = Connection::add(Connection::read(*settings));
-    if (!db.open()) {
-        *error = db.lastError().text();
-        return false;
-    }
-    Dialect::prepareSession(db);
-    return true;
-}
-
-struct Timing {
-    QString step;
-    QList<double> ms;
-    double median() const
-    {
-        QList<double> sorted = ms;
-        std::sort(sorted.begin(), sorted.end());
-        const int n = sorted.size();
-        return n % 2 ? sorted[n / 2] : (sorted[n / 2 - 1] + sorted[n / 2]) / 2.0;
-    }
-};
-
-Timing measure(const QString &step, int runs, const std::function<void()> &prepare, const std::function<void()> &work)
-{
-    Timing timing{step, {}};
-    for (int i = 0; i < runs; ++i) {
-        prepare();
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        timing.ms << timer.nsecsElapsed() / 1e6;
-    }
-    return timing;
+    return BenchSupport::fail("quorel-stockbench", text);
 }
 
 void setBox(QCheckBox *box, bool on)
@@ -149,15 +60,9 @@ bool busiestProduct(Busiest *busiest)
     return true;
 }
 
-int count(const QString &sql)
-{
-    QSqlQuery query;
-    return query.exec(sql) && query.next() ? query.value(0).toInt() : -1;
-}
-
 int runBench(int runs)
 {
-    BenchPrompter prompter;
+    BenchSupport::Prompter prompter;
     Prompter::install(&prompter);
     Admin admin;
     Busiest busiest;
@@ -184,12 +89,11 @@ int runBench(int runs)
     Prompter::install(nullptr);
 
     std::printf("engine %s: %d invoice lines, %d products in Goods listed, busiest product %s %s with %d lines\n",
-                qPrintable(settings->value("/Global/DBDriver").toString()), count("SELECT COUNT(*) FROM InvoiceItem"),
+                qPrintable(settings->value("/Global/DBDriver").toString()), int(BenchSupport::number("SELECT COUNT(*) FROM InvoiceItem")),
                 goodsRows, qPrintable(busiest.table), qPrintable(busiest.code), busiest.lines);
     std::printf("%-40s %10s %10s %10s  (%d runs)\n", "step", "median ms", "min ms", "max ms", runs);
     for (const Timing &t : timings)
-        std::printf("%-40s %10.1f %10.1f %10.1f\n", qPrintable(t.step), t.median(),
-                    *std::min_element(t.ms.begin(), t.ms.end()), *std::max_element(t.ms.begin(), t.ms.end()));
+        std::printf("%-40s %10.1f %10.1f %10.1f\n", qPrintable(t.step), t.median(), t.min(), t.max());
     std::printf("trace box: %s\n", qPrintable(QString(prompter.lastText).replace('\n', " | ")));
     return 0;
 }
@@ -202,29 +106,10 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription("Times the dispense tab's stock work on a Quorel database.");
-    parser.addHelpOption();
-    parser.addOptions({{"settings", "Settings file (INI) with the /Global/DB* keys.", "file"},
-                       {"driver", "QSQLITE, QMYSQL3 or QPSQL7.", "name"},
-                       {"host", "Database server.", "host"},
-                       {"port", "Database port.", "port"},
-                       {"database", "Database name (SQLite: the file).", "name"},
-                       {"user", "Database user.", "user"},
-                       {"password", "Database password.", "password"},
-                       {"runs", "Runs of each step (the median is shown).", "N", "5"}});
+    BenchSupport::addOptions(parser, "Times the dispense tab's stock work on a Quorel database.");
     parser.process(app);
-    QTemporaryDir dir;
-    settings = openSettings(parser, dir);
     QString error;
-    if (!openDatabase(&error))
-        return fail("cannot connect: " + error);
-    utils = new Utility("Admin");
-    if (!utils->initClass(false))
-        return fail("the practice information could not be read");
-    const int status = runBench(qMax(1, parser.value("runs").toInt()));
-    delete utils;
-    utils = nullptr;
-    delete settings;
-    settings = nullptr;
+    const int status = BenchSupport::open(parser, &error) ? runBench(BenchSupport::runs(parser)) : fail(error);
+    BenchSupport::close();
     return status;
 }

@@ -1,6 +1,7 @@
 // quorel-db: sets up a Quorel database. The connection comes from the suite's settings (the same
 // keys the program reads), each one overridable on the command line.
 #include "connection.h"
+#include "connectionoptions.h"
 #include "demodata.h"
 #include "dialect.h"
 #include "globals.h"
@@ -13,7 +14,9 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QTemporaryDir>
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -34,22 +37,9 @@ int failed(const QString &text)
     return 1;
 }
 
-// The suite's settings, each one overridden by its option when given.
-Connection::Parameters parameters(const QCommandLineParser &parser)
+bool openDatabase(QString *error)
 {
-    Connection::Parameters p = Connection::read(*settings);
-    const QList<QPair<QString, QString *>> options{{"driver", &p.driver}, {"host", &p.host},
-                                                   {"database", &p.database}, {"user", &p.user},
-                                                   {"password", &p.password}, {"port", &p.port}};
-    for (const auto &option : options)
-        if (parser.isSet(option.first))
-            *option.second = parser.value(option.first);
-    return p;
-}
-
-bool openDatabase(const QCommandLineParser &parser, QString *error)
-{
-    const Connection::Parameters p = parameters(parser);
+    const Connection::Parameters p = Connection::read(*settings);
     QSqlDatabase db = Connection::add(p);
     if (!db.isValid()) {
         *error = QString("Could not load the database driver %1").arg(p.driver);
@@ -121,13 +111,8 @@ bool parse(QCommandLineParser &parser, const QStringList &arguments, Options *op
     parser.setApplicationDescription("Creates the Quorel schema and fills it with a demo practice or benchmark data.");
     parser.addHelpOption();
     parser.addPositionalArgument("command", "create | demo | bench");
-    parser.addOptions({{"driver", "Qt driver or setting value (QMYSQL3, QSQLITE, QPSQL7).", "name"},
-                       {"host", "Database server.", "host"},
-                       {"port", "Database port.", "port"},
-                       {"database", "Database name (SQLite: the file).", "name"},
-                       {"user", "Database user.", "user"},
-                       {"password", "Database password.", "password"},
-                       {"replace", "Drop the Quorel tables that exist first."},
+    ConnectionOptions::add(parser);
+    parser.addOptions({{"replace", "Drop the Quorel tables that exist first."},
                        {"scale", "bench: size factor (100 = about 1,000,000 invoice lines).", "N", "1"}});
     parser.process(arguments);
     const QStringList positional = parser.positionalArguments();
@@ -148,12 +133,18 @@ int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName("quorel-db");
-    QSettings store("Zephron", "Quorel");
-    settings = &store;
     QCommandLineParser parser;
     Options options;
     QString error;
-    if (!parse(parser, QCoreApplication::arguments(), &options, &error) || !openDatabase(parser, &error))
+    if (!parse(parser, QCoreApplication::arguments(), &options, &error))
         return failed(error);
-    return run(options);
+    // The suite's settings with the options over them, so that the dialect follows the driver used.
+    const QSettings store("Zephron", "Quorel");
+    QTemporaryDir scratch;
+    std::unique_ptr<QSettings> effective(
+        ConnectionOptions::effectiveSettings(parser, store, scratch.filePath("Quorel.conf")));
+    settings = effective.get();
+    const int status = openDatabase(&error) ? run(options) : failed(error);
+    settings = nullptr;
+    return status;
 }
