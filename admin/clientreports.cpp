@@ -31,7 +31,7 @@ QString nameColumns()
     return "Surname," + Dialect::concat({"'  '", "Title", "' '", "Initials"});
 }
 
-// The client as every report shows him, from the two name columns starting at `column`.
+// The client's name as every report shows it, from the two name columns starting at `column`.
 QString clientName(const QSqlQuery &query, int column)
 {
     return Utility::rot13(query.value(column).toString()) + query.value(column + 1).toString();
