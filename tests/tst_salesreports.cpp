@@ -20,7 +20,7 @@ const QString oil = QString::fromUtf8("Ölfilter 100% \"Shampoo\"");
 // 9th of the month before, and a brush returned in February that cancels the one sold in March.
 bool addSales()
 {
-    return add("InvoiceItem", {"InvoiceNumber", "Petnumber", "MyDate", "Category", "Code", "Description", "Quantity"},
+    return insert("InvoiceItem", {"InvoiceNumber", "Petnumber", "MyDate", "Category", "Code", "Description", "Quantity"},
                {{2001, 199, "2024-03-02", "Consult", "60", "Consultation", 2.5},
                 {2002, 199, "2024-02-09", "Goods", "5", oil, 1.5},
                 {2002, 199, "2024-02-10", "Goods", "6", "Zeta_Brush \\ O'Neil", -1.0}});
@@ -187,7 +187,7 @@ private slots:
         QFETCH(QString, mode);
         QFETCH(QDate, start);
         QVERIFY(seed(anchor) && addSales());
-        QVERIFY(add("InvoiceItem", {"InvoiceNumber", "MyDate", "Category", "Code", "Quantity"},
+        QVERIFY(insert("InvoiceItem", {"InvoiceNumber", "MyDate", "Category", "Code", "Quantity"},
                     {{3001, "2024-03-04", "Goods", "3 ", 4.0}, {3001, "2024-03-02", "Goods", "4 ", 64.0},
                      {3001, "2024-03-04", "Goods", "x'9\\_%", 8.0}, {3001, "2024-03-02", "Goods", "X'9\\__", 16.0},
                      {3001, "2024-03-04", "Lab", "50", 0.25}, {3001, "2024-03-02 10:00", "Medication", "21", 32.0}}));

@@ -134,9 +134,9 @@ private slots:
     void stockLevelsAreTheTraceOfEachProduct()
     {
         QVERIFY(seed(anchor) && prepare({tinDelivery}));
-        QVERIFY(add("StockTraceItem", {"TraceNumber", "Category", "Code", "Quantity"},
+        QVERIFY(insert("StockTraceItem", {"TraceNumber", "Category", "Code", "Quantity"},
                     {{3, "Goods", "1 ", 7.0}, {3, "Goods", "x'9\\_%", 5.0}, {3, "Medication", "22 ", 3.0}}));
-        QVERIFY(add("InvoiceItem", {"InvoiceNumber", "Category", "Code", "Quantity"},
+        QVERIFY(insert("InvoiceItem", {"InvoiceNumber", "Category", "Code", "Quantity"},
                     {{1002, "Goods", "3 ", 0.5}, {1003, "Goods", "X'9\\_%", 1.25}, {1009, "Injection", "30", 1.0}}));
         Admin *admin = TestSupport::makeAdmin();
         for (const QString &category : stockCategories) {

@@ -228,9 +228,9 @@ bool seed(const QDate &anchor)
         && seedJournal(anchor);
 }
 
-bool add(const QString &table, const QStringList &columns, const QList<QList<QVariant>> &rows)
+bool insert(const QString &table, const QStringList &columns, const QList<QList<QVariant>> &rows)
 {
-    return insert(table, columns, rows);
+    return ::insert(table, columns, rows);
 }
 
 void choose(Admin *admin, int index)
