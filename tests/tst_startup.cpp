@@ -156,7 +156,7 @@ private slots:
         QTest::newRow("Afrikaans") << afrikaans << QStringList{"admin/wrong", "admin/admin"} << -1
             << QStringList{"login: ", "login: Die aanmeld-ID of kode is nie korrek nie. Probeer weer."}
             << QStringList{caption, "&Stelselinligting", "&Uitreiking", "&Toestemmings", "&Verslae", "&Rasse",
-                           "Ver&skaffers", "&Outoprosedures"} << ran;
+                           "V&erskaffers", "&Outoprosedures"} << ran;
     }
 
     void runs()
