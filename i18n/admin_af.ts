@@ -224,7 +224,7 @@
         <location line="-60"/>
         <location line="+78"/>
         <source>On Order</source>
-        <translation>Bestel</translation>
+        <translation>Op bestelling</translation>
     </message>
     <message>
         <location line="-77"/>
@@ -703,7 +703,7 @@
         <location line="-11"/>
         <location line="+16"/>
         <source>Contact</source>
-        <translation>Kontakpersoon</translation>
+        <translation>Kontak</translation>
     </message>
     <message>
         <location line="-15"/>
@@ -1466,7 +1466,7 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
 <context>
     <name>Startup</name>
     <message>
-        <location filename="../admin/startup.cpp" line="+73"/>
+        <location filename="../admin/startup.cpp" line="+74"/>
         <source>Quorel</source>
         <translation>Quorel</translation>
     </message>

@@ -13,6 +13,7 @@
 #include "zrrichtext.h"
 #include "zrtranslator.h"
 
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QSettings>
 #include <QSqlTableModel>
@@ -335,6 +336,13 @@ private slots:
         QVERIFY(texts.size() > 3);
         QVERIFY2(englishAmong(texts).isEmpty(), qPrintable(englishAmong(texts).join(" | ")));
         QVERIFY2(clashingMnemonics(keys).isEmpty(), qPrintable(clashingMnemonics(keys).join(" | ")));
+        QStringList cut; // list headings too narrow for their title
+        for (QTreeWidget *list : page->findChildren<QTreeWidget *>())
+            for (int c = 0; c < list->columnCount(); ++c)
+                if (!list->headerItem()->text(c).isEmpty() && !list->isColumnHidden(c)
+                    && list->columnWidth(c) < list->header()->sectionSizeHint(c))
+                    cut << list->headerItem()->text(c);
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join(" | ")));
     }
 
     // The viewer, the chart, the note editor, the login and Qt's own input dialog (whose standard
