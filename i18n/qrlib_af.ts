@@ -30,32 +30,6 @@
     </message>
 </context>
 <context>
-    <name>QGnomeTheme</name>
-    <message>
-        <location filename="../shared/prompter.cpp" line="+20"/>
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Kanselleer</translation>
-    </message>
-</context>
-<context>
-    <name>QPlatformTheme</name>
-    <message>
-        <location line="-1"/>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <location line="+0"/>
-        <source>Cancel</source>
-        <translation>Kanselleer</translation>
-    </message>
-</context>
-<context>
     <name>TraceAuditDialog</name>
     <message>
         <location filename="../shared/traceaudit.cpp" line="+120"/>
@@ -136,7 +110,7 @@
 <context>
     <name>Utility</name>
     <message>
-        <location filename="../shared/prompter.cpp" line="+24"/>
+        <location filename="../shared/prompter.cpp" line="+36"/>
         <source>&amp;Yes</source>
         <translation>&amp;Ja</translation>
     </message>

@@ -12,13 +12,6 @@
 namespace {
 Prompter *installed = nullptr;
 
-// Qt's own input dialogs take their standard buttons' texts from these messages; they are listed
-// here so that the suite's catalogues translate them with the rest (the generic and the GNOME
-// platform themes).
-[[maybe_unused]] const char *const standardButtons[] = {
-    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"), QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
-    QT_TRANSLATE_NOOP("QGnomeTheme", "&OK"), QT_TRANSLATE_NOOP("QGnomeTheme", "&Cancel")};
-
 Prompter *widgetPrompter()
 {
     static WidgetPrompter instance;
