@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="af_ZA">
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Folder</source>
+        <translation>Gids</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Skyf</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-lêer</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Lêer</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Kortpad</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>Step &amp;down</source>
