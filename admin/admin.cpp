@@ -126,14 +126,18 @@ void Admin::init()
 
 void Admin::sizeListColumns()
 {
-    // Names get the room; codes, flags and figures only what they need.
-    ui.list->setColumnWidth(0, 60);
-    ui.list->setColumnWidth(1, 240);
-    ui.list->setColumnWidth(2, 70);
-    ui.perms_list->setColumnWidth(0, 180);
-    ui.supply_list->setColumnWidth(0, 200);
-    ui.auto_list->setColumnWidth(1, 70);
-    ui.auto_list->setColumnWidth(2, 220);
+    // Names get the room; codes, flags and figures only what they need, and never less than their
+    // title, which is longer in some languages.
+    const auto size = [](QTreeWidget *list, int column, int width) {
+        list->setColumnWidth(column, qMax(width, list->header()->sectionSizeHint(column)));
+    };
+    size(ui.list, 0, 60);
+    size(ui.list, 1, 240);
+    size(ui.list, 2, 70);
+    size(ui.perms_list, 0, 180);
+    size(ui.supply_list, 0, 200);
+    size(ui.auto_list, 1, 70);
+    size(ui.auto_list, 2, 220);
 }
 
 void Admin::captionTaxBoxes(bool check)

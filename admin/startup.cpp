@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QPixmap>
 #include <QScreen>
 #include <QSettings>
@@ -123,6 +124,8 @@ int run(QApplication &app)
     const QString lang = settings->value("/Personal/Lang", "").toString();
     installTranslator(app, installDir + "/i18n/Quorel/qrlib." + lang + ".qm");
     installTranslator(app, installDir + "/i18n/Quorel/admin." + lang + ".qm");
+    // Month and day names (a chart's axis, a report's month) in the catalogues' language too.
+    QLocale::setDefault(lang.isEmpty() ? QLocale::system() : QLocale(lang));
 
     if (!openDatabase()) {
         app.quit();

@@ -6,7 +6,7 @@
     <message>
         <location filename="../admin/admin.ui" line="+6"/>
         <source>Quorel - Admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel - Admin</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -16,70 +16,70 @@
     <message>
         <location line="+3"/>
         <source>Quorel System Information</source>
-        <translation>Quorel Stelselinligting</translation>
+        <translation>Quorel-stelselinligting</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Practice</source>
-        <translation type="unfinished"></translation>
+        <translation>Praktyk</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Title Line 1 is the Practice Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Titelreël 1 is die praktyk se naam</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Title Line 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Titelreël 2</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Title Line 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Titelreël 3</translation>
     </message>
     <message>
         <location line="+25"/>
         <source>Invoice Footers</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktuurvoetskrifte</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Receipt Footer</source>
-        <translation type="unfinished"></translation>
+        <translation>Kwitansievoetskrif</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Statement Footers</source>
-        <translation type="unfinished"></translation>
+        <translation>Staatvoetskrifte</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>Hand Over Footer</source>
-        <translation type="unfinished"></translation>
+        <translation>Oorhandigingsvoetskrif</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Label Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiketinligting</translation>
     </message>
     <message>
         <location line="+10"/>
         <location line="+13"/>
         <source>Tax Levy</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastingkoers</translation>
     </message>
     <message>
         <location line="-6"/>
         <location line="+13"/>
         <source>Tax Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Belastingnaam</translation>
     </message>
     <message>
         <location line="+10"/>
         <location filename="../admin/breeds.cpp" line="+49"/>
         <source>Alt Lang</source>
-        <translation>Alt Taal</translation>
+        <translation>Alt. taal</translation>
     </message>
     <message>
         <location line="+4"/>
@@ -94,83 +94,83 @@
     <message>
         <location line="+3"/>
         <source>Quorel Table Management</source>
-        <translation>Quorel Tabelbestuur</translation>
+        <translation>Quorel-tabelbestuur</translation>
     </message>
     <message>
         <location line="+5"/>
         <location line="+464"/>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <location line="-460"/>
         <location line="+470"/>
         <source>Goods</source>
-        <translation type="unfinished"></translation>
+        <translation>Goedere</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Hospital</source>
-        <translation type="unfinished"></translation>
+        <translation>Hospitaal</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Consult</source>
-        <translation type="unfinished"></translation>
+        <translation>Konsultasie</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Diagnosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnose</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Injection</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspuiting</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+356"/>
         <location line="+114"/>
         <source>Lab</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratorium</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Medication</source>
-        <translation type="unfinished"></translation>
+        <translation>Medikasie</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Proc</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosedure</translation>
     </message>
     <message>
         <location line="-469"/>
         <location line="+470"/>
         <source>Vaccination</source>
-        <translation type="unfinished"></translation>
+        <translation>Inenting</translation>
     </message>
     <message>
         <location line="-466"/>
         <source>Enable Pricing Assistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruik die prysassistent</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Highlight Stock Inconsistencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Merk voorraadafwykings</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Analyse Stock On Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontleed voorraad by keuse</translation>
     </message>
     <message>
         <location line="+5"/>
@@ -185,6 +185,7 @@
         <location line="+142"/>
         <location line="+279"/>
         <location filename="../admin/breeds.cpp" line="-1"/>
+        <location filename="../admin/clientreports.cpp" line="+178"/>
         <source>Description</source>
         <translation>Beskrywing</translation>
     </message>
@@ -193,128 +194,128 @@
         <location line="+26"/>
         <location line="+141"/>
         <source>Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Skedule</translation>
     </message>
     <message>
         <location line="-166"/>
         <location line="+38"/>
         <source>Unit Of Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>Maateenheid</translation>
     </message>
     <message>
         <location line="-37"/>
         <location line="+47"/>
         <source>Cost Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosprys</translation>
     </message>
     <message>
         <location line="-46"/>
         <location line="+56"/>
         <source>Sales Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkoopprys</translation>
     </message>
     <message>
         <location line="-55"/>
         <location line="+61"/>
         <source>Stock Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadvlak</translation>
     </message>
     <message>
         <location line="-60"/>
         <location line="+78"/>
         <source>On Order</source>
-        <translation type="unfinished"></translation>
+        <translation>Op bestelling</translation>
     </message>
     <message>
         <location line="-77"/>
         <source>Order Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Besteldatum</translation>
     </message>
     <message>
         <location line="+1"/>
         <location line="+100"/>
         <source>Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktief</translation>
     </message>
     <message>
         <location line="-86"/>
         <source>Alt Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt. beskrywing</translation>
     </message>
     <message>
         <location line="+8"/>
         <source>S0</source>
-        <translation type="unfinished"></translation>
+        <translation>S0</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S1</source>
-        <translation type="unfinished"></translation>
+        <translation>S1</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S2</source>
-        <translation type="unfinished"></translation>
+        <translation>S2</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S3</source>
-        <translation type="unfinished"></translation>
+        <translation>S3</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S4</source>
-        <translation type="unfinished"></translation>
+        <translation>S4</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S5</source>
-        <translation type="unfinished"></translation>
+        <translation>S5</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S6</source>
-        <translation type="unfinished"></translation>
+        <translation>S6</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>S7</source>
-        <translation type="unfinished"></translation>
+        <translation>S7</translation>
     </message>
     <message>
         <location line="+8"/>
         <source>Alt Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt. eenheid</translation>
     </message>
     <message>
         <location line="+10"/>
         <source>Mark-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Opslag</translation>
     </message>
     <message>
         <location line="+8"/>
         <source>Selling price including taxes; press Enter to check it against cost and mark-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkoopprys met belasting ingesluit; druk Enter om dit teen die kosprys en opslag na te gaan</translation>
     </message>
     <message>
         <location line="+9"/>
         <source>Re-order @</source>
-        <translation type="unfinished"></translation>
+        <translation>Herbestel @</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Setting of -1 disables stock control</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;n Waarde van -1 skakel voorraadbeheer af</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>To Qty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestel tot</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>A value of 0 disables stock control</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;n Waarde van 0 skakel voorraadbeheer af</translation>
     </message>
     <message>
         <location line="+8"/>
@@ -324,22 +325,22 @@
     <message>
         <location line="+5"/>
         <source>DTR</source>
-        <translation type="unfinished"></translation>
+        <translation>DTH</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Days to the reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dae tot die herinnering</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Tax 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Belasting 1</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Tax 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Belasting 2</translation>
     </message>
     <message>
         <location line="+9"/>
@@ -375,28 +376,28 @@
     <message>
         <location line="+1"/>
         <source>If the &lt;b&gt;Code&lt;/b&gt; field has focus search for that code, else search for the &lt;b&gt;Description&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>As die &lt;b&gt;Kode&lt;/b&gt;-veld die fokus het, soek na daardie kode, anders na die &lt;b&gt;Beskrywing&lt;/b&gt;</translation>
     </message>
     <message>
         <location line="+3"/>
         <location filename="../admin/stocktrace.cpp" line="+23"/>
         <source>Trace</source>
-        <translation>Spoor</translation>
+        <translation>Naspoor</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Quick / Detailed Stock trace on current item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vinnige / volledige voorraadnaspoor van die huidige item.</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Opmerkings</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Add remarks and queries to items at dispense time</source>
-        <translation type="unfinished"></translation>
+        <translation>Opmerkings en vrae wat by die uitreiking van die item verskyn</translation>
     </message>
     <message>
         <location line="+6"/>
@@ -406,109 +407,109 @@
     <message>
         <location line="+3"/>
         <source>Quorel User Permissions</source>
-        <translation>Quorel Gebruikertoestemmings</translation>
+        <translation>Quorel-gebruikertoestemmings</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Users</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruikers</translation>
     </message>
     <message>
         <location line="+9"/>
         <location line="+5"/>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Klas</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Dispense</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitreiking</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Utility</source>
-        <translation type="unfinished"></translation>
+        <translation>Nutsfunksies</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Procedure Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosedureskedule</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Hospital Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Hospitaalskedule</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Stock Schedule</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadskedule</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Stock</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraad</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Toestemming</translation>
     </message>
     <message>
         <location line="+9"/>
         <source>User Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruikerskode</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>Initials</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorletters</translation>
     </message>
     <message>
         <location line="+5"/>
         <location line="+61"/>
         <source>Commission</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommissie</translation>
     </message>
     <message>
         <location line="-58"/>
         <source>Commission in percent (0 to 100)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommissie in persent (0 tot 100)</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Enable Diary</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebruik die dagboek</translation>
     </message>
     <message>
         <location line="+5"/>
         <location filename="../admin/users.cpp" line="+189"/>
         <source>Add Permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Voeg toestemming by</translation>
     </message>
     <message>
         <location line="+3"/>
         <location filename="../admin/users.cpp" line="+25"/>
         <source>Delete Permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap toestemming</translation>
     </message>
     <message>
         <location line="+4"/>
         <location filename="../admin/users.cpp" line="-123"/>
         <source>New User</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe gebruiker</translation>
     </message>
     <message>
         <location line="+3"/>
         <location filename="../admin/users.cpp" line="+73"/>
         <source>Update User</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer gebruiker</translation>
     </message>
     <message>
         <location line="+3"/>
         <location filename="../admin/users.cpp" line="-21"/>
         <source>Delete User</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap gebruiker</translation>
     </message>
     <message>
         <location line="+8"/>
@@ -518,152 +519,152 @@
     <message>
         <location line="+3"/>
         <source>Quorel Report Writer</source>
-        <translation>Quorel Verslagskrywer</translation>
+        <translation>Quorel-verslagskrywer</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Goods Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Goedereprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Hospital Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Hospitaalprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Consult Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Konsultasieprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Diagnosis Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnoseprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Injection Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspuitingprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Lab Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratoriumprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Medication Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Medikasieprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Proc Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosedureprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Vaccination Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Inentingprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>New Clients History</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe kliënte per maand</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>New Clients Detailed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe kliënte in besonderhede</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Client Purchases</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliënte se aankope</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Monthly Client Expenditure</source>
-        <translation type="unfinished"></translation>
+        <translation>Maandelikse kliëntbesteding</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Full Client Expenditure</source>
-        <translation type="unfinished"></translation>
+        <translation>Volledige kliëntbesteding</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Client Debt/Credit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliëntskuld/-krediet</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Bad Debtors</source>
-        <translation type="unfinished"></translation>
+        <translation>Slegte skuldenaars</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Stock Levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadvlakke</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Stock Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadwaardes</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Daily Activity</source>
-        <translation type="unfinished"></translation>
+        <translation>Daaglikse aktiwiteit</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Pending Invoices</source>
-        <translation type="unfinished"></translation>
+        <translation>Hangende fakture</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>All Clients</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle kliënte</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Personnel Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Personeelprestasie</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Drug Levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Medisynevlakke</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Begin</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Einde</translation>
     </message>
     <message>
         <location line="+23"/>
         <source>Process</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerk</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Voer uit</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafiek</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Druk</translation>
     </message>
     <message>
         <location line="+8"/>
@@ -673,77 +674,79 @@
     <message>
         <location line="+6"/>
         <source>Add Breed</source>
-        <translation type="unfinished"></translation>
+        <translation>Voeg ras by</translation>
     </message>
     <message>
         <location line="+3"/>
         <location filename="../admin/breeds.cpp" line="+36"/>
         <location line="+4"/>
         <source>Delete Breed</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap ras</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>&amp;Suppliers</source>
-        <translation>Ver&amp;skaffers</translation>
+        <translation>V&amp;erskaffers</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Quorel Supplier Management</source>
-        <translation>Quorel Verskafferbestuur</translation>
+        <translation>Quorel-verskafferbestuur</translation>
     </message>
     <message>
         <location line="+4"/>
         <location line="+12"/>
         <source>Company</source>
-        <translation type="unfinished"></translation>
+        <translation>Maatskappy</translation>
     </message>
     <message>
         <location line="-11"/>
         <location line="+16"/>
         <source>Contact</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontak</translation>
     </message>
     <message>
         <location line="-15"/>
         <location line="+20"/>
         <source>Email</source>
-        <translation type="unfinished"></translation>
+        <translation>E-pos</translation>
     </message>
     <message>
         <location line="-19"/>
         <location line="+24"/>
         <source>Tel</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefoon</translation>
     </message>
     <message>
         <location line="-23"/>
         <location line="+28"/>
         <source>Fax</source>
-        <translation type="unfinished"></translation>
+        <translation>Faks</translation>
     </message>
     <message>
         <location line="-27"/>
         <location line="+32"/>
         <source>Cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Sel</translation>
     </message>
     <message>
         <location line="-31"/>
         <location line="+36"/>
+        <location filename="../admin/clientreports.cpp" line="+102"/>
+        <location line="+24"/>
         <source>Postal Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Posadres</translation>
     </message>
     <message>
         <location line="-35"/>
         <location line="+42"/>
         <source>Collection Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Afhaaladres</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Lab Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratoriumdiens</translation>
     </message>
     <message>
         <location line="+22"/>
@@ -753,73 +756,73 @@
     <message>
         <location line="+3"/>
         <source>Quorel Automated Procedure Management</source>
-        <translation>Quorel Outoprosedurebestuur</translation>
+        <translation>Quorel-outoprosedurebestuur</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Procedures</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosedures</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Name of the procedure; type a new name and press Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Naam van die prosedure; tik &apos;n nuwe naam en druk Hernoem</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Hernoem</translation>
     </message>
     <message>
         <location line="+11"/>
         <location line="+23"/>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoeveelheid</translation>
     </message>
     <message>
         <location line="-20"/>
         <source>Unit Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Eenheidsprys</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Charge</source>
-        <translation type="unfinished"></translation>
+        <translation>Heffing</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehef</translation>
     </message>
     <message>
         <location line="+26"/>
         <source>Charge for Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Hef vir die item</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Add Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Voeg item by</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Update Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer item</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Delete Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap item</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaal</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>0.00</source>
-        <translation type="unfinished"></translation>
+        <translation>0.00</translation>
     </message>
     <message>
         <location line="+13"/>
@@ -829,102 +832,102 @@
     <message>
         <location line="+1"/>
         <source>Help on this program</source>
-        <translation type="unfinished"></translation>
+        <translation>Hulp met hierdie program</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>EXIT</source>
-        <translation>UITGANG</translation>
+        <translation>VERLAAT</translation>
     </message>
     <message>
         <location filename="../admin/autoprocs.cpp" line="+155"/>
         <source>New Auto Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe outoprosedure</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Enter the new Auto Procedure name</source>
-        <translation type="unfinished"></translation>
+        <translation>Tik die naam van die nuwe outoprosedure</translation>
     </message>
     <message>
         <location line="+17"/>
         <source>Update Automated Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer outoprosedure</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to rename the Automated Procedure &apos;%1&apos; to &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die outoprosedure &apos;%1&apos; na &apos;%2&apos; wil hernoem</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>Delete Automated Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap outoprosedure</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to delete the Automated Procedure &apos;%1&apos; from the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die outoprosedure &apos;%1&apos; uit die stelsel wil skrap</translation>
     </message>
     <message>
         <location line="+12"/>
         <source>New Procedure Composition</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe item in die prosedure</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to add the Automated Procedure Composition &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u &apos;%1&apos; by die outoprosedure wil voeg</translation>
     </message>
     <message>
         <location line="+42"/>
         <source>Update Composition</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer die inhoud</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>You must highlight a Composition entry to Update</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n item van die prosedure merk om dit op te dateer</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Update Procedure Composition</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer item in die prosedure</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to update the Automated Procedure Composition &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die item &apos;%1&apos; van die outoprosedure wil opdateer</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>Delete Composition</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap uit die inhoud</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>You must highlight a Composition entry to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n item van die prosedure merk om dit te skrap</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Delete Procedure Composition</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap item uit die prosedure</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to delete the Automated Procedure Composition &apos;%1&apos; from the Procedure</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die item &apos;%1&apos; uit die outoprosedure wil skrap</translation>
     </message>
     <message>
         <location filename="../admin/breeds.cpp" line="-4"/>
         <source>You must highlight a breed to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n ras merk om dit te skrap</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Confirm that you will delete the breed &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die ras &apos;%1&apos; wil skrap</translation>
     </message>
     <message>
         <location filename="../admin/practice.cpp" line="+67"/>
@@ -935,69 +938,70 @@
     <message>
         <location line="-2"/>
         <source>Quorel Admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel Admin</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Confirm that you wish to update the system information as shown ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die stelselinligting soos getoon wil opdateer?</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Update System Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer stelselinligting</translation>
     </message>
     <message>
         <location filename="../admin/pricing.cpp" line="+104"/>
+        <location filename="../admin/reportoutput.cpp" line="+284"/>
         <source>Quorel</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>&lt;b&gt;Price calculation conflict&lt;/b&gt;&lt;br&gt;&lt;font color=&quot;red&quot;&gt;&lt;em&gt;Selling at %1 : Calculated as %2&lt;/em&gt;&lt;/font&gt;&lt;br&gt;Would you like to update the &lt;b&gt;Cost&lt;/b&gt; or &lt;b&gt;Markup&lt;/b&gt;&lt;br&gt;You may also choose to ignore the issue</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Prysberekening verskil&lt;/b&gt;&lt;br&gt;&lt;font color=&quot;red&quot;&gt;&lt;em&gt;Verkoop teen %1 : Bereken as %2&lt;/em&gt;&lt;/font&gt;&lt;br&gt;Wil u die &lt;b&gt;Kosprys&lt;/b&gt; of die &lt;b&gt;Opslag&lt;/b&gt; aanpas?&lt;br&gt;U kan die verskil ook ignoreer</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignoreer</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>&amp;Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kosprys</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>&amp;Markup</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opslag</translation>
     </message>
     <message>
         <location filename="../admin/productedit.cpp" line="+26"/>
         <source>&lt;font color=&quot;red&quot;&gt;No supplier has been selected.&lt;/font&gt;&lt;p&gt;This is not recommended and may cause problems with reports and orders.&lt;p&gt;Do you wish to continue ?</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;font color=&quot;red&quot;&gt;Geen verskaffer is gekies nie.&lt;/font&gt;&lt;p&gt;Dit word nie aanbeveel nie en kan probleme met verslae en bestellings veroorsaak.&lt;p&gt;Wil u voortgaan?</translation>
     </message>
     <message>
         <location line="+38"/>
         <location line="+126"/>
         <location line="+3"/>
         <source>New Entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe inskrywing</translation>
     </message>
     <message>
         <location line="-128"/>
         <source>The product %1 is already allocated Code %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die produk %1 het reeds die kode %2</translation>
     </message>
     <message>
         <location line="+99"/>
         <source>Deletion of item from stock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Item uit voorraad geskrap.</translation>
     </message>
     <message>
         <location line="+27"/>
         <source>Confirm you wish to add product %1 with code %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die produk %1 met kode %2 wil byvoeg</translation>
     </message>
     <message>
         <location line="+25"/>
@@ -1005,68 +1009,72 @@
         <location line="+3"/>
         <location line="+5"/>
         <source>Modify Entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Wysig inskrywing</translation>
     </message>
     <message>
         <location line="-14"/>
         <source>You must highlight an entry to modify</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n inskrywing merk om dit te wysig</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>You may not have a blank Code or Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Die kode en die beskrywing mag nie leeg wees nie</translation>
     </message>
     <message>
         <location line="+4"/>
         <source>Confirm that you will update the highlighted entry
 %1, Code %2
 with the values shown ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die gemerkte inskrywing
+%1, kode %2
+met die getoonde waardes wil opdateer?</translation>
     </message>
     <message>
         <location line="+21"/>
         <location line="+8"/>
         <source>Delete Entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap inskrywing</translation>
     </message>
     <message>
         <location line="-8"/>
         <source>You must highlight an entry to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n inskrywing merk om dit te skrap</translation>
     </message>
     <message>
         <location line="+9"/>
         <source>Confirm that you will delete the highlighted entry
 %1, Code %2
 from the system?</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die gemerkte inskrywing
+%1, kode %2
+uit die stelsel wil skrap?</translation>
     </message>
     <message>
         <location filename="../admin/products.cpp" line="+225"/>
         <source>Search By Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Soek volgens kode</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>&lt;b&gt;&lt;/b&gt;No entry with code &lt;b&gt;%1&lt;/b&gt; located</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;&lt;/b&gt;Geen inskrywing met kode &lt;b&gt;%1&lt;/b&gt; gevind nie</translation>
     </message>
     <message>
         <location line="+7"/>
         <location line="+7"/>
         <source>Search By Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Soek volgens beskrywing</translation>
     </message>
     <message>
         <location line="-6"/>
         <source>&lt;b&gt;&lt;/b&gt;The exact match of &lt;b&gt;%1&lt;/b&gt; was not found.&lt;p&gt;The closest match &lt;b&gt;%2&lt;/b&gt; has been chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;&lt;/b&gt;Geen presiese ooreenkoms met &lt;b&gt;%1&lt;/b&gt; is gevind nie.&lt;p&gt;Die naaste ooreenkoms, &lt;b&gt;%2&lt;/b&gt;, is gekies</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>&lt;b&gt;&lt;/b&gt;No entry matching &lt;b&gt;%1&lt;/b&gt; found</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;&lt;/b&gt;Geen inskrywing stem met &lt;b&gt;%1&lt;/b&gt; ooreen nie</translation>
     </message>
     <message>
         <location filename="../admin/stocktrace.cpp" line="-3"/>
@@ -1075,7 +1083,11 @@ from the system?</source>
 Received: %3
 Dispensed: %4
 On Hand: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Berekende voorraadvlak verskil
+%1 - %2 
+Ontvang: %3
+Uitgereik: %4
+Op hande: %5</translation>
     </message>
     <message>
         <location line="+2"/>
@@ -1083,132 +1095,321 @@ On Hand: %5</source>
 Received: %3
 Dispensed: %4
 On Hand: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2 
+Ontvang: %3
+Uitgereik: %4
+Op hande: %5</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluit</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Adjust</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas aan</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Stock level Calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Berekening van die voorraadvlak</translation>
     </message>
     <message>
         <location filename="../admin/suppliers.cpp" line="+90"/>
         <source>Add Supplier</source>
-        <translation type="unfinished"></translation>
+        <translation>Voeg verskaffer by</translation>
     </message>
     <message>
         <location line="+2"/>
         <source>Confirm that you will add %1
 to the list of suppliers with the details shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u %1
+met die getoonde besonderhede by die lys verskaffers wil voeg.</translation>
     </message>
     <message>
         <location line="+17"/>
         <source>Update Supplier</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdateer verskaffer</translation>
     </message>
     <message>
         <location line="+3"/>
         <location line="+24"/>
         <source>You have not selected a valid supplier. Try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>U het nie &apos;n geldige verskaffer gekies nie. Probeer weer.</translation>
     </message>
     <message>
         <location line="-19"/>
         <source>Confirm that you will update %1
 in the list of suppliers with the details shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u %1
+in die lys verskaffers met die getoonde besonderhede wil opdateer.</translation>
     </message>
     <message>
         <location line="+16"/>
         <source>Delete Supplier</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrap verskaffer</translation>
     </message>
     <message>
         <location line="+7"/>
         <source>Confirm that you will delete %1
 from the list of suppliers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u %1
+uit die lys verskaffers wil skrap.</translation>
     </message>
     <message>
         <location filename="../admin/users.cpp" line="-25"/>
         <source>Enter the new users name</source>
-        <translation type="unfinished"></translation>
+        <translation>Tik die nuwe gebruiker se naam</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Enter the users initials</source>
-        <translation type="unfinished"></translation>
+        <translation>Tik die gebruiker se voorletters</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Enter the user code</source>
-        <translation type="unfinished"></translation>
+        <translation>Tik die gebruikerskode</translation>
     </message>
     <message>
         <location line="+21"/>
         <source>You must have a user selected to perform a delete</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n gebruiker kies om te skrap</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>You may not delete the administrator</source>
-        <translation type="unfinished"></translation>
+        <translation>U mag nie die administrateur skrap nie</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Confirm that you will remove user &apos;%1&apos; from the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die gebruiker &apos;%1&apos; uit die stelsel wil verwyder</translation>
     </message>
     <message>
         <location line="+13"/>
         <source>You must have a user selected to perform an update</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n gebruiker kies om op te dateer</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Confirm that you will update user &apos;%1&apos;
 to have a new user Code %2,Initials %3, and Commission %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u die gebruiker &apos;%1&apos;
+wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>New Permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuwe toestemming</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>You must have a user selected to allocate a permission</source>
-        <translation type="unfinished"></translation>
+        <translation>U moet &apos;n gebruiker kies om &apos;n toestemming toe te ken</translation>
     </message>
     <message>
         <location line="+15"/>
         <source>User %3 already has permission &apos;%1 : %2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gebruiker %3 het reeds die toestemming &apos;%1 : %2&apos;</translation>
     </message>
     <message>
         <location line="+3"/>
         <source>Confirm that you will add  &apos;%1 : %2&apos; to user &apos;%3&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u &apos;%1 : %2&apos; aan die gebruiker &apos;%3&apos; wil toeken</translation>
     </message>
     <message>
         <location line="+13"/>
         <source>To delete a permission it must be selected in the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Kies eers die toestemming in die lys om dit te skrap</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Confirm that you will remove &apos;%1 : %2&apos; from user &apos;%3&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevestig dat u &apos;%1 : %2&apos; van die gebruiker &apos;%3&apos; wil verwyder</translation>
+    </message>
+    <message>
+        <location filename="../admin/clientreports.cpp" line="-252"/>
+        <source>Home Tel.</source>
+        <translation>Tel. (huis)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Work Tel.</source>
+        <translation>Tel. (werk)</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Cellular.</source>
+        <translation>Selfoon</translation>
+    </message>
+    <message>
+        <location line="+38"/>
+        <location line="+110"/>
+        <location line="+47"/>
+        <location line="+30"/>
+        <location line="+25"/>
+        <source>Client</source>
+        <translation>Kliënt</translation>
+    </message>
+    <message>
+        <location line="-212"/>
+        <location line="+110"/>
+        <location line="+48"/>
+        <location line="+29"/>
+        <source>Acc No.</source>
+        <translation>Rek. nr.</translation>
+    </message>
+    <message>
+        <location line="-93"/>
+        <source>New Clients</source>
+        <translation>Nuwe kliënte</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Initial Visit</source>
+        <translation>Eerste besoek</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+104"/>
+        <source>Email Address</source>
+        <translation>E-posadres</translation>
+    </message>
+    <message>
+        <location line="-93"/>
+        <source>Number of Clients</source>
+        <translation>Aantal kliënte</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Processing Owner Expenditure, this could take a while, please wait..</source>
+        <translation>Verwerk kliëntbesteding, dit kan &apos;n rukkie duur, wag asseblief..</translation>
+    </message>
+    <message>
+        <location line="+7"/>
+        <source>Expenditure for %1</source>
+        <translation>Besteding vir %1</translation>
+    </message>
+    <message>
+        <location line="+6"/>
+        <source>Processing Full Owner Expenditure, this will take a while, please wait..</source>
+        <translation>Verwerk volledige kliëntbesteding, dit sal &apos;n ruk duur, wag asseblief..</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <source>Total Expenditure to date.</source>
+        <translation>Totale besteding tot op datum.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+55"/>
+        <source>Grand Total</source>
+        <translation>Groottotaal</translation>
+    </message>
+    <message>
+        <location line="-46"/>
+        <location line="+28"/>
+        <source>Balance</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <location line="-27"/>
+        <source>Curr.</source>
+        <translation>Huidig</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>30</source>
+        <translation>30</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>60</source>
+        <translation>60</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>90</source>
+        <translation>90</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>120+</source>
+        <translation>120+</translation>
+    </message>
+    <message>
+        <location line="+15"/>
+        <source>zzz- Debt Totals -zzz</source>
+        <translation>zzz- Skuldtotale -zzz</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>zzz- Credit Totals -zzz</source>
+        <translation>zzz- Krediettotale -zzz</translation>
+    </message>
+    <message>
+        <location line="+8"/>
+        <location line="+24"/>
+        <source>Identity No.</source>
+        <translation>ID-nommer</translation>
+    </message>
+    <message>
+        <location line="-22"/>
+        <location line="+23"/>
+        <source>Physical Address</source>
+        <translation>Fisiese adres</translation>
+    </message>
+    <message>
+        <location line="-23"/>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <location line="+22"/>
+        <source>Acc. #</source>
+        <translation>Rek. #</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>Last Visit</source>
+        <translation>Laaste besoek</translation>
+    </message>
+    <message>
+        <location line="+12"/>
+        <source>Unknown</source>
+        <translation>Onbekend</translation>
+    </message>
+    <message>
+        <location filename="../admin/reportoutput.cpp" line="-19"/>
+        <source>Export Results</source>
+        <translation>Voer resultate uit</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>You must highlight entries to export</source>
+        <translation>U moet inskrywings merk om uit te voer</translation>
+    </message>
+    <message>
+        <location line="+16"/>
+        <source>Can&apos;t create %1</source>
+        <translation>Kan nie %1 skep nie</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>Graph Results</source>
+        <translation>Grafiek van resultate</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>It makes no sense to graph this report</source>
+        <translation>Dit maak nie sin om &apos;n grafiek van hierdie verslag te teken nie</translation>
+    </message>
+    <message>
+        <location line="+4"/>
+        <source>You must highlight entries to chart</source>
+        <translation>U moet inskrywings merk om &apos;n grafiek te teken</translation>
     </message>
 </context>
 <context>
@@ -1216,27 +1417,27 @@ to have a new user Code %2,Initials %3, and Commission %4</source>
     <message>
         <location filename="../widgets/noteed.ui" line="+9"/>
         <source>Note Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Notaredigeerder</translation>
     </message>
     <message>
         <location line="+18"/>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hulp</translation>
     </message>
     <message>
         <location line="+20"/>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <location line="+13"/>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kanselleer</translation>
     </message>
     <message>
         <location filename="../widgets/noteed.cpp" line="+23"/>
         <source>&lt;h3&gt;Simple Remarks&lt;/h3&gt;&lt;p&gt;Plain text over as many lines as needed. It is shown when the item is dispensed and may be mixed with parameters.&lt;/p&gt;&lt;h3&gt;Parameters&lt;/h3&gt;&lt;p&gt;A parameter is three fields on one line, each closed by &lt;b&gt;??&lt;/b&gt;: the prelude printed on the invoice before the value, the prompt shown in the input dialog at dispense time, and the default value put into that dialog (it may be empty but is still closed by &lt;b&gt;??&lt;/b&gt;). Text after the last &lt;b&gt;??&lt;/b&gt; is printed after the value.&lt;/p&gt;&lt;p&gt;Examples:&lt;br&gt;&lt;tt&gt;THE HEART RATE WAS ??HEART RATE?? &lt;/tt&gt;&lt;br&gt;&lt;tt&gt;DISPENSED ??QUANTITY (ML) OF XXX DISPENSED??5?? ML XXX&lt;/tt&gt;&lt;/p&gt;&lt;em&gt;Warning, there may not be any spaces after the opening &lt;b&gt;??&lt;/b&gt;&apos;s&lt;/em&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Eenvoudige opmerkings&lt;/h3&gt;&lt;p&gt;Gewone teks oor soveel reëls as nodig. Dit word getoon wanneer die item uitgereik word en kan met parameters gemeng word.&lt;/p&gt;&lt;h3&gt;Parameters&lt;/h3&gt;&lt;p&gt;&apos;n Parameter is drie velde op een reël, elkeen afgesluit met &lt;b&gt;??&lt;/b&gt;: die inleiding wat voor die waarde op die faktuur gedruk word, die vraag wat by uitreiking in die invoervenster verskyn, en die verstekwaarde wat in daardie venster ingevul word (dit mag leeg wees, maar word steeds met &lt;b&gt;??&lt;/b&gt; afgesluit). Teks ná die laaste &lt;b&gt;??&lt;/b&gt; word ná die waarde gedruk.&lt;/p&gt;&lt;p&gt;Voorbeelde:&lt;br&gt;&lt;tt&gt;DIE HARTSPOED WAS ??HARTSPOED?? &lt;/tt&gt;&lt;br&gt;&lt;tt&gt;UITGEREIK ??HOEVEELHEID (ML) XXX UITGEREIK??5?? ML XXX&lt;/tt&gt;&lt;/p&gt;&lt;em&gt;Waarskuwing: daar mag geen spasies ná die openings-&lt;b&gt;??&lt;/b&gt; wees nie&lt;/em&gt;</translation>
     </message>
     <message>
         <location line="+15"/>
@@ -1245,49 +1446,67 @@ to have a new user Code %2,Initials %3, and Commission %4</source>
     </message>
 </context>
 <context>
+    <name>Plot</name>
+    <message>
+        <location filename="../widgets/plot.cpp" line="+130"/>
+        <source>Results</source>
+        <translation>Resultate</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Print</source>
+        <translation>Druk</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Close</source>
+        <translation>Sluit</translation>
+    </message>
+</context>
+<context>
     <name>Startup</name>
     <message>
-        <location filename="../admin/startup.cpp" line="+73"/>
+        <location filename="../admin/startup.cpp" line="+74"/>
         <source>Quorel</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Could not load the database driver %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kon nie die databasisdrywer %1 laai nie</translation>
     </message>
 </context>
 <context>
     <name>ZrRichText</name>
     <message>
-        <location filename="../widgets/zrrichtext.cpp" line="+22"/>
+        <location filename="../widgets/zrrichtext.cpp" line="+41"/>
         <source>Quorel Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel-verslag</translation>
     </message>
     <message>
-        <location line="+8"/>
-        <source>Close</source>
-        <translation type="unfinished"></translation>
+        <location line="+18"/>
+        <source>&amp;Print</source>
+        <translation>&amp;Druk</translation>
     </message>
     <message>
-        <location line="+1"/>
-        <source>Print</source>
-        <translation type="unfinished"></translation>
+        <location line="+5"/>
+        <source>&amp;Close</source>
+        <translation>&amp;Sluit</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+2"/>
+        <source>&amp;Prev</source>
+        <translation>&amp;Vorige</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>&amp;Next</source>
+        <translation>Vo&amp;lgende</translation>
+    </message>
+    <message>
+        <location line="-7"/>
         <source>Print All</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Prev</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <location line="+1"/>
-        <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Druk alles</translation>
     </message>
 </context>
 </TS>

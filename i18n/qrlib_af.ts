@@ -11,7 +11,7 @@
     <message>
         <location line="+2"/>
         <source>&lt;b&gt;Quorel&lt;/b&gt; - enter your login id and code</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Quorel&lt;/b&gt; - tik u aanmeld-ID en kode</translation>
     </message>
     <message>
         <location line="+8"/>
@@ -34,77 +34,77 @@
     <message>
         <location filename="../shared/traceaudit.cpp" line="+120"/>
         <source>Stock Trace</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadnaspoor</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>%1 is not a product table</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is nie &apos;n produktabel nie</translation>
     </message>
     <message>
         <location line="+18"/>
         <source>Stock Trace of %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorraadnaspoor van %1 %2</translation>
     </message>
     <message>
         <location line="+5"/>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Beweging</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Trace / Invoice</source>
-        <translation type="unfinished"></translation>
+        <translation>Naspoor / faktuur</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Note / Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Nota / status</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoeveelheid</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Getel</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <location line="+9"/>
         <source>Received</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontvang</translation>
     </message>
     <message>
         <location line="+0"/>
         <source>Dispensed</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitgereik</translation>
     </message>
     <message>
         <location line="+11"/>
         <source>Received: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontvang: %1</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Dispensed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitgereik: %1</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>On Hand: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Op hande: %1</translation>
     </message>
 </context>
 <context>
@@ -125,21 +125,22 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../shared/utility.cpp" line="+63"/>
+        <location filename="../shared/utility.cpp" line="+65"/>
         <location line="+6"/>
         <source>Quorel</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel</translation>
     </message>
     <message>
         <location line="-5"/>
         <source>The practice information could not be read from the table SysInfo:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die praktykinligting kon nie uit die tabel SysInfo gelees word nie:
+%1</translation>
     </message>
     <message>
         <location line="+6"/>
         <source>The table SysInfo holds no practice information. Create its row before starting the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die tabel SysInfo bevat geen praktykinligting nie. Skep sy ry voordat u die program begin.</translation>
     </message>
     <message>
         <location line="+18"/>
@@ -152,7 +153,10 @@
 
 Driver: %1
 Database: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die databasis het &apos;n fout gerapporteer.
+
+Drywer: %1
+Databasis: %2</translation>
     </message>
     <message>
         <location line="+3"/>
@@ -160,17 +164,20 @@ Database: %2</source>
 
 Statement:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+
+SQL-stelling:
+%1</translation>
     </message>
     <message>
         <location line="+1"/>
         <source>Quorel Database Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorel-databasisfout</translation>
     </message>
     <message>
         <location line="+100"/>
         <source>Quorel Admin Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hulp by Quorel Admin</translation>
     </message>
 </context>
 </TS>

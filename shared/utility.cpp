@@ -1,5 +1,6 @@
 #include "utility.h"
 
+#include "globals.h"
 #include "logindialog.h"
 #include "prompter.h"
 #include "traceaudit.h"
@@ -8,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
+#include <QSettings>
 #include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -221,7 +223,11 @@ void Utility::showHelp()
         helpWindow->setWindowTitle(tr("Quorel Admin Help"));
         helpWindow->setOpenExternalLinks(false);
         helpWindow->resize(640, 560);
-        QFile file(":/quorel/help.html");
+        // The guide in the language of the catalogues ("/Personal/Lang"), where there is one.
+        const QString language = settings ? settings->value("/Personal/Lang").toString() : QString();
+        QFile file(":/quorel/help_" + language + ".html");
+        if (language.isEmpty() || !file.exists())
+            file.setFileName(":/quorel/help.html");
         if (file.open(QIODevice::ReadOnly))
             helpWindow->setHtml(QString::fromUtf8(file.readAll()));
     }
