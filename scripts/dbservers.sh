@@ -3,13 +3,14 @@
 #   dbservers.sh start DIR            starts both, creates the test database and user on each, and
 #                                     writes DIR/env with the QUOREL_MARIADB_* and QUOREL_PG_*
 #                                     variables (among them each server's folder, *_DIR)
-#   dbservers.sh stop DIR             stops both by their pid
-#   dbservers.sh restart DIR ENGINE   stops one server (mariadb or postgres) by its pid and starts it
-#                                     again on the same port and data folder, as a server restarted
-#                                     for an update does under a running program
+#   dbservers.sh stop DIR [ENGINE]    stops both by their pid, or only the one of ENGINE (mariadb or
+#                                     postgres)
+#   dbservers.sh resume DIR ENGINE    starts a stopped server again on its port and data folder
+#   dbservers.sh restart DIR ENGINE   both of these, as a server restarted for an update does under a
+#                                     running program
 set -euo pipefail
 
-usage="usage: dbservers.sh start|stop DIR | restart DIR mariadb|postgres"
+usage="usage: dbservers.sh start DIR | stop DIR [ENGINE] | resume|restart DIR ENGINE (ENGINE: mariadb or postgres)"
 cmd=${1:?$usage}
 dir=${2:?$usage}
 pgbin=$(ls -d /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
@@ -108,6 +109,21 @@ stop_by_pid() { # pidfile signal
 stop_mariadb() { stop_by_pid "$dir/maria/pid" TERM; }
 stop_postgres() { stop_by_pid "$dir/pg/data/postmaster.pid" INT; }
 
+running() { # pidfile
+    [[ -f $1 ]] && kill -0 "$(head -n 1 "$1")" 2>/dev/null
+}
+
+# A server already running is left as it is: a second one would fight it for the port and pid file.
+resume_mariadb() { running "$dir/maria/pid" || run_mariadb "$dir/maria"; }
+resume_postgres() { running "$dir/pg/data/postmaster.pid" || run_postgres "$dir/pg"; }
+
+engine_of() {
+    case ${1:-} in
+    mariadb | postgres) echo "$1" ;;
+    *) echo "$usage" >&2; exit 2 ;;
+    esac
+}
+
 case $cmd in
 start)
     mkdir -p "$dir"
@@ -117,15 +133,22 @@ start)
     start_postgres
     ;;
 stop)
-    stop_mariadb
-    stop_postgres
+    if [[ -n ${3:-} ]]; then
+        engine=$(engine_of "$3")
+        "stop_$engine"
+    else
+        stop_mariadb
+        stop_postgres
+    fi
+    ;;
+resume)
+    engine=$(engine_of "${3:-}")
+    "resume_$engine"
     ;;
 restart)
-    case ${3:-} in
-    mariadb) stop_mariadb && run_mariadb "$dir/maria" ;;
-    postgres) stop_postgres && run_postgres "$dir/pg" ;;
-    *) echo "$usage" >&2; exit 2 ;;
-    esac
+    engine=$(engine_of "${3:-}")
+    "stop_$engine"
+    "resume_$engine"
     ;;
 *)
     echo "$usage" >&2
