@@ -246,6 +246,9 @@ void Utility::showHelp()
     if (!helpWindow) {
         helpWindow = new QTextBrowser;
         helpWindow->setObjectName("QuorelHelp");
+        // Read beside the main window, and gone with it: an open help window must not keep the
+        // program (and its connection) running once the main window is closed.
+        helpWindow->setAttribute(Qt::WA_QuitOnClose, false);
         helpWindow->setWindowTitle(tr("Quorel Admin Help"));
         helpWindow->setOpenExternalLinks(false);
         helpWindow->resize(640, 560);
