@@ -49,12 +49,13 @@ void setFieldBackground(QLineEdit *field, const QColor &colour)
 
 bool refillSuppliers(Admin *admin, const QString &sql)
 {
-    QComboBox *combo = admin->ui.supplier_combo;
-    combo->clear();
-    combo->addItem(QStringLiteral(" "));
+    // Read first: when the read fails (the server away) the combo keeps what it showed.
     QSqlQuery query;
     if (!TabSupport::run(query, sql))
         return false;
+    QComboBox *combo = admin->ui.supplier_combo;
+    combo->clear();
+    combo->addItem(QStringLiteral(" "));
     while (query.next())
         combo->addItem(query.value(0).toString());
     return true;
