@@ -14,9 +14,10 @@ using namespace TabSupport;
 
 namespace {
 
-// The id of the AutoProcContents row a list item shows: two items may look alike, and a quantity
-// shown with two decimals is not the one stored.
+// What a list item keeps of its AutoProcContents row besides the texts: the row's id (two items
+// may look alike, and a quantity shown with two decimals finds no row) and the quantity as stored.
 constexpr int LineRole = Qt::UserRole;
+constexpr int QuantityRole = Qt::UserRole + 1;
 
 // A procedure's name fits its column.
 bool nameFits(Admin *admin, const QString &caption, const QString &name)
@@ -94,6 +95,7 @@ bool addContentItem(Admin *admin, const QSqlQuery &row, double *total)
     for (int column = 0; column < texts.size(); ++column)
         item->setText(column, texts.at(column));
     item->setData(0, LineRole, line);
+    item->setData(0, QuantityRole, quantity);
     *total += itemCharge;
     return true;
 }
@@ -173,7 +175,8 @@ void Admin::autoProcContSelected(QTreeWidgetItem *item)
     const int index = ui.auto_desc_combo->findText(cell(item, 2), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index >= 0)
         ui.auto_desc_combo->setCurrentIndex(index);
-    ui.auto_qty_tf->setText(cell(item, 1));
+    // The quantity as stored: an update that changes only the charge must not round it to what the list shows.
+    ui.auto_qty_tf->setText(QString::number(item->data(0, QuantityRole).toDouble(), 'g', 15));
     ui.checkBox8->setChecked(cell(item, 6) == "Y");
 }
 

@@ -407,22 +407,23 @@ private slots:
             QVERIFY2(field->isEnabled(), qPrintable(field->objectName()));
     }
 
-    // An item whose quantity has more than two decimals (shown as 1.26) is changed all the same, by its line.
+    // An item whose quantity has more than two decimals (shown as 1.26) is changed all the same, by its line, and
+    // keeps its quantity when only its charge changes.
     void procedureItemChangedByItsLine()
     {
         Admin *admin = TestSupport::makeAdmin();
         QTreeWidgetItem *bone = admin->ui.auto_list->findItems("Goods", Qt::MatchExactly).value(0);
         QVERIFY(bone && bone->text(1) == "1.26");
         admin->ui.auto_list->setCurrentItem(bone);
-        admin->ui.auto_qty_tf->setText("3");
+        QCOMPARE(admin->ui.auto_qty_tf->text(), QString("1.255"));
         admin->ui.checkBox8->setChecked(true);
         prompter()->answer(0);
 
         admin->updateAutoProcContents();
 
         QCOMPARE(observed("SELECT Category,Code,Quantity,Charge FROM AutoProcContents ORDER BY id"),
-                 Table({{"Vaccination", "100", "1", "Y"}, {"Goods", "5", "3", "Y"}}));
-        QCOMPARE(column(admin->ui.auto_list->model(), 1), QStringList({"1.00", "3.00"}));
+                 Table({{"Vaccination", "100", "1", "Y"}, {"Goods", "5", "1.255", "Y"}}));
+        QCOMPARE(column(admin->ui.auto_list->model(), 5), QStringList({"17.25", "5.77"})); // charged now: 1.255 x 4.60
     }
 
     // The remarks icon says whether remarks are stored: it stays as it was when storing them failed.
