@@ -1,6 +1,7 @@
 #include "admin.h"
 
 #include "globals.h"
+#include "productform.h"
 #include "prompter.h"
 #include "reportframe.h"
 #include "utility.h"
@@ -99,6 +100,7 @@ void Admin::init()
     ui.uom_tf->setValidator(new LimitValidator(ui.uom_tf, "uomValidator", 10, false));
     const int descriptionLength = settings ? settings->value("/Global/DescriptionLength", 38).toInt() : 38;
     ui.description_tf->setValidator(new LimitValidator(ui.description_tf, "descriptionValidator", descriptionLength, true));
+    ProductForm::followSearchFields(this);
 
     // The practice fields are shown in the main language first; the tax boxes follow their names.
     alt_lang_tb_clicked();

@@ -14,6 +14,23 @@ using namespace TabSupport;
 
 namespace {
 
+// What a list item keeps of its AutoProcContents row besides the texts: the row's id (two items
+// may look alike, and a quantity shown with two decimals finds no row) and the quantity as stored.
+constexpr int LineRole = Qt::UserRole;
+constexpr int QuantityRole = Qt::UserRole + 1;
+
+// A procedure's name fits its column.
+bool nameFits(Admin *admin, const QString &caption, const QString &name)
+{
+    return textsFit(admin, caption, "AutoProc", {{"Description", name}});
+}
+
+// The quantity typed for a composition item is a number.
+bool quantityRead(Admin *admin, const QString &caption)
+{
+    return numbersRead(admin, caption, {{Admin::tr("quantity"), admin->ui.auto_qty_tf->text()}});
+}
+
 QString procedureName(const Admin *admin, int row)
 {
     const QListWidgetItem *item = admin->ui.proc_list->item(row);
@@ -36,11 +53,18 @@ bool procedureCode(const QString &name, int *code)
     return true;
 }
 
+// The product table of the category auto_combo shows: the untranslated word, whatever language
+// the window speaks (the combo lists the categories in the suite's order).
+QString chosenCategory(const Admin *admin)
+{
+    return Utility::categories().value(admin->ui.auto_combo->currentIndex());
+}
+
 // The code of the product chosen in auto_combo and auto_desc_combo (empty when there is none).
 bool chosenProductCode(const Admin *admin, QString *code)
 {
     QSqlQuery query;
-    if (!run(query, "SELECT Code FROM " + admin->ui.auto_combo->currentText() + " WHERE Description='"
+    if (!run(query, "SELECT Code FROM " + chosenCategory(admin) + " WHERE Description='"
                         + escaped(admin->ui.auto_desc_combo->currentText()) + "'"))
         return false;
     *code = query.next() ? query.value(0).toString() : QString();
@@ -55,6 +79,7 @@ bool addContentItem(Admin *admin, const QSqlQuery &row, double *total)
     const QString category = row.value(1).toString();
     const QString code = row.value(2).toString();
     const QString charge = row.value(3).toString();
+    const QVariant line = row.value(4);
     QSqlQuery product;
     if (!run(product, "SELECT Description, Price,Tax1,Tax2 FROM " + category + " WHERE Code='" + escaped(code) + "'"))
         return false;
@@ -69,6 +94,8 @@ bool addContentItem(Admin *admin, const QSqlQuery &row, double *total)
                             code, Utility::numStr(price, 2), Utility::numStr(itemCharge, 2), charge};
     for (int column = 0; column < texts.size(); ++column)
         item->setText(column, texts.at(column));
+    item->setData(0, LineRole, line);
+    item->setData(0, QuantityRole, quantity);
     *total += itemCharge;
     return true;
 }
@@ -111,7 +138,7 @@ void Admin::autoProcSelected(int index)
     if (!procedureCode(name, &code))
         return;
     QSqlQuery contents;
-    if (!run(contents, QString("SELECT Quantity,Category,Code,Charge from AutoProcContents") + "  WHERE ProcId="
+    if (!run(contents, QString("SELECT Quantity,Category,Code,Charge,id from AutoProcContents") + "  WHERE ProcId="
                            + QString::number(code) + " ORDER BY id Desc"))
         return;
     ui.auto_list->clear();
@@ -122,13 +149,17 @@ void Admin::autoProcSelected(int index)
     ui.autoTotal_tf->setText(Utility::numStr(total, 2));
 }
 
+// Called with the stored word of an item's category, or with the text auto_combo shows for it.
 void Admin::autoCategorySelected(const QString &category)
 {
-    const int index = ui.auto_combo->findText(category, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0)
-        ui.auto_combo->setCurrentIndex(index);
+    int index = Utility::categories().indexOf(category);
+    if (index < 0)
+        index = ui.auto_combo->findText(category, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0)
+        return;
+    ui.auto_combo->setCurrentIndex(index);
     QSqlQuery query;
-    if (!run(query, "SELECT Description FROM " + category + " ORDER BY Description"))
+    if (!run(query, "SELECT Description FROM " + chosenCategory(this) + " ORDER BY Description"))
         return;
     ui.auto_desc_combo->clear();
     while (query.next())
@@ -140,12 +171,13 @@ void Admin::autoProcContSelected(QTreeWidgetItem *item)
     if (!item)
         return;
     ui.auto_list->setCurrentItem(item);
-    autoCategorySelected(item->text(0));
-    const int index = ui.auto_desc_combo->findText(item->text(2), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    autoCategorySelected(cell(item, 0));
+    const int index = ui.auto_desc_combo->findText(cell(item, 2), Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index >= 0)
         ui.auto_desc_combo->setCurrentIndex(index);
-    ui.auto_qty_tf->setText(item->text(1));
-    ui.checkBox8->setChecked(item->text(6) == "Y");
+    // The quantity as stored: an update that changes only the charge must not round it to what the list shows.
+    ui.auto_qty_tf->setText(QString::number(item->data(0, QuantityRole).toDouble(), 'g', 15));
+    ui.checkBox8->setChecked(cell(item, 6) == "Y");
 }
 
 // The list is sorted by name: the procedure selected afterwards is the alphabetically last one,
@@ -160,6 +192,8 @@ void Admin::newAutoProc()
         cancelled(this, caption);
         return;
     }
+    if (!nameFits(this, caption, name))
+        return;
     if (!run("INSERT INTO  AutoProc (Description) VALUES ('" + escaped(name) + "')"))
         return;
     reloadAutoProcs();
@@ -171,6 +205,8 @@ void Admin::newAutoProc()
 void Admin::updateAutoProc()
 {
     const QString current = currentProcedure(this);
+    if (!nameFits(this, tr("Update Automated Procedure"), ui.proc_tf->text()))
+        return;
     if (!confirmed(this, tr("Update Automated Procedure"),
                    tr("Confirm that you wish to rename the Automated Procedure '%1' to '%2'")
                        .arg(current, ui.proc_tf->text())))
@@ -183,51 +219,43 @@ void Admin::updateAutoProc()
     reloadAutoProcs();
 }
 
-// The composition goes first: a failure there leaves the procedure in place.
+// The composition goes first.
 void Admin::deleteAutoProc()
 {
     const QString current = currentProcedure(this);
     if (!confirmed(this, tr("Delete Automated Procedure"),
                    tr("Confirm that you wish to delete the Automated Procedure '%1' from the system").arg(current)))
         return;
-    int code = 0;
-    if (!procedureCode(current, &code) || !run("DELETE from AutoProcContents WHERE ProcId=" + QString::number(code))
-        || !run("DELETE from AutoProc WHERE Code=" + QString::number(code)))
-        return;
+    // The procedure goes with its composition, or both stay.
+    inOneTransaction([&] {
+        int code = 0;
+        return procedureCode(current, &code) && run("DELETE from AutoProcContents WHERE ProcId=" + QString::number(code))
+            && run("DELETE from AutoProc WHERE Code=" + QString::number(code));
+    });
     reloadAutoProcs();
 }
 
 // Charge is left to the column's default; the flag is set afterwards with an update.
 void Admin::newAutoProcContents()
 {
-    if (!confirmed(this, tr("New Procedure Composition"),
-                   tr("Confirm that you wish to add the Automated Procedure Composition '%1'")
-                       .arg(ui.auto_desc_combo->currentText())))
+    const QString caption = tr("New Procedure Composition");
+    if (!quantityRead(this, caption)
+        || !confirmed(this, caption,
+                      tr("Confirm that you wish to add the Automated Procedure Composition '%1'")
+                          .arg(ui.auto_desc_combo->currentText())))
         return;
     int procedure = 0;
     QString product;
     if (!procedureCode(currentProcedure(this), &procedure) || !chosenProductCode(this, &product))
         return;
     if (!run(QString("INSERT into AutoProcContents (Quantity, Category, Code, ProcId) ") + "VALUES ('"
-             + numberText(ui.auto_qty_tf->text()) + "', '" + ui.auto_combo->currentText() + "', '" + escaped(product)
-             + "', '" + QString::number(procedure) + "')"))
+             + numberText(ui.auto_qty_tf->text()) + "', '" + chosenCategory(this) + "', '" + escaped(product) + "', '"
+             + QString::number(procedure) + "')"))
         return;
     showCurrentProcedure(this);
 }
 
 namespace {
-
-// The row behind a list item, matched on the quantity as shown; of two identical rows the older.
-bool contentRowId(int procedure, const QTreeWidgetItem *item, QString *id)
-{
-    QSqlQuery query;
-    if (!run(query, QString("SELECT id FROM AutoProcContents WHERE ") + "ProcId=" + QString::number(procedure) + " AND "
-                        + "Category='" + escaped(item->text(0)) + "' AND " + "Quantity='" + item->text(1) + "' AND "
-                        + "Code='" + escaped(item->text(3)) + "' ORDER BY id"))
-        return false;
-    *id = query.next() ? query.value(0).toString() : QString();
-    return true;
-}
 
 // The highlighted composition item, or the warning under `caption`.
 QTreeWidgetItem *highlightedContent(Admin *admin, const QString &caption, const QString &warning)
@@ -240,25 +268,22 @@ QTreeWidgetItem *highlightedContent(Admin *admin, const QString &caption, const 
 
 } // namespace
 
+// The item is changed by its line: the row the list shows, whatever its quantity looks like. A
+// line removed meanwhile (the list is out of date) is not written.
 void Admin::updateAutoProcContents()
 {
     const QTreeWidgetItem *item =
         highlightedContent(this, tr("Update Composition"), tr("You must highlight a Composition entry to Update"));
-    if (!item
-        || !confirmed(this, tr("Update Procedure Composition"),
+    const QString caption = tr("Update Procedure Composition");
+    if (!item || !quantityRead(this, caption)
+        || !confirmed(this, caption,
                       tr("Confirm that you wish to update the Automated Procedure Composition '%1'").arg(item->text(2))))
         return;
-    int procedure = 0;
     QString product;
-    QString id;
-    if (!procedureCode(currentProcedure(this), &procedure) || !chosenProductCode(this, &product)
-        || !contentRowId(procedure, item, &id))
-        return;
-    // No matching row (the list is out of date): nothing to change.
-    if (!id.isEmpty()
-        && !run("UPDATE AutoProcContents Set Category='" + ui.auto_combo->currentText() + "', Quantity='"
+    if (!chosenProductCode(this, &product)
+        || !run("UPDATE AutoProcContents Set Category='" + chosenCategory(this) + "', Quantity='"
                 + numberText(ui.auto_qty_tf->text()) + "', Code='" + escaped(product) + "', Charge='"
-                + flag(ui.checkBox8) + "' WHERE id=" + id))
+                + flag(ui.checkBox8) + "' WHERE id=" + QString::number(item->data(0, LineRole).toLongLong())))
         return;
     showCurrentProcedure(this);
 }
@@ -277,7 +302,7 @@ void Admin::deleteAutoProcContents()
     int procedure = 0;
     if (!procedureCode(currentProcedure(this), &procedure)
         || !run("DELETE FROM AutoProcContents WHERE ProcId=" + QString::number(procedure) + " AND Category='"
-                + escaped(item->text(0)) + "' AND Code='" + escaped(item->text(3)) + "'"))
+                + escaped(cell(item, 0)) + "' AND Code='" + escaped(cell(item, 3)) + "'"))
         return;
     showCurrentProcedure(this);
 }

@@ -5,6 +5,7 @@
 #include "noteed.h"
 #include "prompter.h"
 #include "remarksicons.h"
+#include "tabsupport.h"
 #include "utility.h"
 
 #include <QSqlQuery>
@@ -26,10 +27,10 @@ void Admin::noteEditor()
     QTreeWidgetItem *item = ui.list->currentItem();
     if (!item)
         return;
-    const QString code = utils->escapeSQL(item->text(0), false);
+    const QString code = TabSupport::escaped(TabSupport::cell(item, 0));
     const QString table = currentCategoryTable();
     QSqlQuery query;
-    if (!query.exec("SELECT Remarks FROM " + table + " " + "WHERE Code='" + code + "'") && utils->showDBError(query))
+    if (!TabSupport::run(query, "SELECT Remarks FROM " + table + " " + "WHERE Code='" + code + "'"))
         return;
     const QString remarks = query.next() ? remarksText(query.value(0)) : QString();
     auto editor = std::make_unique<NoteEd>(this);
@@ -37,9 +38,11 @@ void Admin::noteEditor()
     if (Prompter::current()->exec(editor.get()) != QDialog::Accepted)
         return;
     const QString text = editor->textEdit1->toPlainText();
-    QSqlQuery update;
-    if (!update.exec("UPDATE " + table + " " + "SET Remarks='" + utils->escapeSQL(text, false) + "' " + "WHERE Code='"
-                     + code + "'"))
-        utils->showDBError(update);
+    const QString caption = tr("Note Editor");
+    // The icon tells whether remarks are stored: it changes only when they were.
+    if (!TabSupport::textsFit(this, caption, table, {{"Remarks", text}})
+        || !TabSupport::run("UPDATE " + table + " " + "SET Remarks='" + TabSupport::escaped(text) + "' "
+                            + "WHERE Code='" + code + "'"))
+        return;
     ui.pushButton30->setIcon(remarksIcon(text.isEmpty() ? RemarksIcon::Blank : RemarksIcon::Present));
 }

@@ -3,6 +3,7 @@
 
 #include "globals.h"
 #include "prompter.h"
+#include "tabsupport.h"
 #include "utility.h"
 
 #include <QSqlQuery>
@@ -17,27 +18,51 @@ QList<QLineEdit *> practiceFields(Ui::Admin &ui)
             ui.Tax1, ui.Tax1Name, ui.Tax2, ui.Tax2Name, ui.HandOver, ui.label2LineEdit, ui.label3LineEdit};
 }
 
-// The UPDATE of either language, its columns in the order the suite has always written them. The
-// rates have one column for both languages. The main language's values go in as typed (a quote in
-// a text breaks the statement, as it always has); the alternative language's texts are escaped,
-// but its two labels are not.
+// The texts of the tab with their SysInfo columns, in the order the UPDATE has always written them;
+// the alternative language's columns end in "_A".
+QList<QPair<QString, QLineEdit *>> practiceTexts(Ui::Admin &ui)
+{
+    return {{"ALINE1", ui.ALINE1}, {"ALINE2", ui.ALINE2}, {"ALINE3", ui.ALINE3}, {"ALINE4", ui.ALINE4},
+            {"ALINE5", ui.ALINE5}, {"ALINE6", ui.ALINE6}, {"ALINE7", ui.ALINE7}, {"InvFooter", ui.InvFooter},
+            {"InvFooter1", ui.InvFooter1}, {"RecFooter", ui.RecFooter}, {"StatementFooter1", ui.StatementFooter1},
+            {"StatementFooter2", ui.StatementFooter2}, {"StatementFooter3", ui.StatementFooter3},
+            {"HandOverFooter", ui.HandOver}, {"LABEL2", ui.label2LineEdit}, {"LABEL3", ui.label3LineEdit}};
+}
+
+QString column(const QString &name, bool alternative)
+{
+    return alternative ? name + "_A" : name;
+}
+
+// The UPDATE of either language. Every text is escaped, so that whatever the practice's name or
+// footers hold (a quote, a backslash) is stored as typed; the two rates, one column for both
+// languages, are written as the numbers they read as.
 QString updateStatement(Ui::Admin &ui, bool alternative)
 {
-    const QList<QPair<QString, QLineEdit *>> columns{
-        {"ALINE1", ui.ALINE1}, {"ALINE2", ui.ALINE2}, {"ALINE3", ui.ALINE3}, {"ALINE4", ui.ALINE4},
-        {"ALINE5", ui.ALINE5}, {"ALINE6", ui.ALINE6}, {"ALINE7", ui.ALINE7}, {"InvFooter", ui.InvFooter},
-        {"InvFooter1", ui.InvFooter1}, {"RecFooter", ui.RecFooter}, {"StatementFooter1", ui.StatementFooter1},
-        {"StatementFooter2", ui.StatementFooter2}, {"StatementFooter3", ui.StatementFooter3},
-        {"HandOverFooter", ui.HandOver}, {"LABEL2", ui.label2LineEdit}, {"LABEL3", ui.label3LineEdit},
-        {"Tax1", ui.Tax1}, {"Tax1Name", ui.Tax1Name}, {"Tax2", ui.Tax2}, {"Tax2Name", ui.Tax2Name}};
     QStringList parts;
-    for (const auto &[column, field] : columns) {
-        const bool rate = column == "Tax1" || column == "Tax2";
-        const bool escaped = alternative && !rate && !column.startsWith("LABEL");
-        parts << column + (alternative && !rate ? "_A" : "") + "='"
-                     + (escaped ? utils->escapeSQL(field->text(), false) : field->text()) + "'";
-    }
+    for (const auto &[name, field] : practiceTexts(ui))
+        parts << column(name, alternative) + "='" + TabSupport::escaped(field->text()) + "'";
+    parts << "Tax1='" + TabSupport::numberText(ui.Tax1->text()) + "'"
+          << column("Tax1Name", alternative) + "='" + TabSupport::escaped(ui.Tax1Name->text()) + "'"
+          << "Tax2='" + TabSupport::numberText(ui.Tax2->text()) + "'"
+          << column("Tax2Name", alternative) + "='" + TabSupport::escaped(ui.Tax2Name->text()) + "'";
     return "UPDATE SysInfo SET " + parts.join(',');
+}
+
+// Nothing is asked when the fields cannot be saved as they stand.
+bool practiceAcceptable(Admin *admin, const QString &caption)
+{
+    Ui::Admin &ui = admin->ui;
+    const bool alternative = ui.alt_lang_tb->isChecked();
+    QList<TabSupport::ColumnText> texts;
+    for (const auto &[name, field] : practiceTexts(ui))
+        texts.append({column(name, alternative), field->text()});
+    texts.append({column("Tax1Name", alternative), ui.Tax1Name->text()});
+    texts.append({column("Tax2Name", alternative), ui.Tax2Name->text()});
+    return TabSupport::numbersRead(admin, caption,
+                                   {{Admin::tr("first tax rate"), ui.Tax1->text()},
+                                    {Admin::tr("second tax rate"), ui.Tax2->text()}})
+        && TabSupport::textsFit(admin, caption, "SysInfo", texts);
 }
 } // namespace
 
@@ -51,7 +76,7 @@ void Admin::alt_lang_tb_clicked()
           "StatementFooter1, StatementFooter2, StatementFooter3,Tax1, Tax1Name, Tax2, Tax2Name, "
           "HandOverFooter,LABEL2,LABEL3 FROM SysInfo";
     QSqlQuery query;
-    if (!query.exec(sql) && utils->showDBError(query))
+    if (!TabSupport::run(query, sql))
         return;
     if (!query.next() || query.value(0).isNull())
         return;
@@ -62,6 +87,8 @@ void Admin::alt_lang_tb_clicked()
 
 void Admin::PushButton4_clicked()
 {
+    if (!practiceAcceptable(this, tr("Update System Information")))
+        return;
     if (!Prompter::confirm(this, tr("Quorel Admin"),
                            tr("Confirm that you wish to update the system information as shown ?"))) {
         Prompter::inform(this, tr("Update System Information"), tr("Operation cancelled"));
@@ -70,8 +97,7 @@ void Admin::PushButton4_clicked()
     const QString sql = updateStatement(ui, ui.alt_lang_tb->isChecked());
     if (!ui.alt_lang_tb->isChecked())
         captionTaxBoxes(false);
-    QSqlQuery query;
-    if (!query.exec(sql) && utils->showDBError(query))
+    if (!TabSupport::run(sql))
         return;
     utils->initClass(true);
     utils->checkMemoryLeaks();

@@ -1,6 +1,7 @@
 // Adding, modifying and deleting products of the category shown, with the cascade of a change
 // into the tables that copy product data and the stock trace of a deletion.
 #include "admin.h"
+#include "columns.h"
 #include "dialect.h"
 #include "globals.h"
 #include "productform.h"
@@ -111,7 +112,29 @@ QString updateStatement(Admin *admin, const QString &table, const QString &oldCo
 // an empty field ('') nor a fraction is refused by strict MariaDB or PostgreSQL.
 QString daysToReminder(Admin *admin)
 {
-    return QString::number(qRound(Utility::strNum(admin->ui.dtr_tf->text(), nullptr)));
+    return numberText(admin->ui.dtr_tf->text(), true);
+}
+
+// Nothing is asked, and nothing written, when a field cannot be stored as it stands: a text longer
+// than its column, a number that is none.
+bool productAcceptable(Admin *admin, const QString &caption, const QString &table)
+{
+    const Ui::Admin &ui = admin->ui;
+    QList<TypedNumber> numbers{{Admin::tr("cost"), ui.cost_tf->text()},
+                               {Admin::tr("mark-up"), ui.markup_tf->text()},
+                               {Admin::tr("selling price"), ui.sell_tf->text()},
+                               {Admin::tr("re-order level"), ui.level_tf->text()},
+                               {Admin::tr("quantity to order up to"), ui.toqty_tf->text()},
+                               {Admin::tr("quantity on order"), ui.onorder_tf->text()}};
+    if (dtrShown(admin))
+        numbers.append({Admin::tr("number of days to the reminder"), ui.dtr_tf->text(), true});
+    const QList<ColumnText> texts{{"Code", ui.code_tf->text()},
+                                  {"Description", ui.description_tf->text()},
+                                  {"UnitOfMeasure", ui.uom_tf->text()},
+                                  {"Supplier", ui.supplier_combo->currentText()},
+                                  {"Description_A", ui.description_A_tf->text()},
+                                  {"UnitOfMeasure_A", ui.uom_A_tf->text()}};
+    return numbersRead(admin, caption, numbers) && textsFit(admin, caption, table, texts);
 }
 
 // What the highlighted row said before the modification.
@@ -142,12 +165,13 @@ bool cascadeChange(Admin *admin, const QString &table, const ListedProduct &old)
                + escaped(old.unit) + "'");
 }
 
-// Reloads the category and selects the row under `code`, when one is given.
+// Reloads the category and selects the row under `code`, when one is given: the code as stored,
+// without the NUL that no engine keeps.
 void reloadAndSelect(Admin *admin, const QString &code)
 {
     admin->categorySelected(admin->ui.category_combo->currentText());
     if (!code.isNull())
-        selectCode(admin, code);
+        selectCode(admin, Columns::stored(code));
 }
 
 // The stock on hand recorded for the removal is read after the DELETE, so it is that of any row
@@ -185,20 +209,21 @@ void Admin::newEntry()
     if (ui.code_tf->text().isEmpty() && !allocateCode(this, table))
         return;
     const QString code = ui.code_tf->text();
-    if (!codeIsFree(this, table, code))
+    if (!codeIsFree(this, table, code) || !productAcceptable(this, tr("New Entry"), table))
         return;
     if (!confirmed(this, tr("New Entry"),
                    tr("Confirm you wish to add product %1 with code %2").arg(ui.description_tf->text(), code)))
         return;
     if (!supplierAccepted(this, tr("New Entry"), table))
         return;
-    if (!run(insertStatement(this, table)))
-        return;
-    if (dtrShown(this)
-        && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "' WHERE Code='"
-                + escaped(code) + "'"))
-        return;
-    reloadAndSelect(this, code);
+    const bool added = inOneTransaction([&] {
+        return run(insertStatement(this, table))
+            && (!dtrShown(this)
+                || run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "' WHERE Code='"
+                       + escaped(code) + "'"));
+    });
+    // Either way the list shows what is stored: the new product, or the form cleared of it.
+    reloadAndSelect(this, added ? code : QString());
 }
 
 void Admin::modifyEntry()
@@ -216,28 +241,30 @@ void Admin::modifyProduct()
         Prompter::warn(this, tr("Modify Entry"), tr("You must highlight an entry to modify"));
         return;
     }
-    const ListedProduct old{current->text(0), current->text(1), current->text(2), current->text(3)};
+    const ListedProduct old{cell(current, 0), cell(current, 1), cell(current, 2), cell(current, 3)};
     const QString code = ui.code_tf->text();
     if (code.isEmpty() || ui.description_tf->text().isEmpty()) {
         Prompter::critical(this, tr("Modify Entry"), tr("You may not have a blank Code or Description"));
         return;
     }
+    const QString table = currentCategoryTable();
+    if (!productAcceptable(this, tr("Modify Entry"), table))
+        return;
     if (!confirmed(this, tr("Modify Entry"),
                    tr("Confirm that you will update the highlighted entry\n%1, Code %2\nwith the values shown ?")
                        .arg(ui.description_tf->text(), code)))
         return;
-    const QString table = currentCategoryTable();
     if (!supplierAccepted(this, tr("Modify Entry"), table))
         return;
-    if (!run(updateStatement(this, table, old.code)))
-        return;
-    if (dtrShown(this)
-        && !run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "'WHERE Code='"
-                + escaped(code) + "'"))
-        return;
-    if (!cascadeChange(this, table, old))
-        return;
-    reloadAndSelect(this, code);
+    // The product and the copies of its code, description and unit change together or not at all.
+    const bool modified = inOneTransaction([&] {
+        return run(updateStatement(this, table, old.code))
+            && (!dtrShown(this)
+                || run("UPDATE " + table + " SET DaysToReminder='" + daysToReminder(this) + "'WHERE Code='"
+                       + escaped(code) + "'"))
+            && cascadeChange(this, table, old);
+    });
+    reloadAndSelect(this, modified ? code : old.code);
 }
 
 void Admin::deleteEntry()
@@ -250,16 +277,17 @@ void Admin::deleteEntry()
     QTreeWidgetItem *neighbour = ui.list->itemBelow(current);
     if (!neighbour)
         neighbour = ui.list->itemAbove(current);
-    const QString neighbourCode = neighbour ? neighbour->text(0) : QString();
+    const QString neighbourCode = neighbour ? cell(neighbour, 0) : QString();
     const QString code = ui.code_tf->text();
     if (!confirmed(this, tr("Delete Entry"),
                    tr("Confirm that you will delete the highlighted entry\n%1, Code %2\nfrom the system?")
                        .arg(ui.description_tf->text(), code)))
         return;
     const QString table = currentCategoryTable();
-    if (!run("DELETE FROM " + table + " WHERE Code='" + escaped(code) + "'"))
-        return;
-    if (!isServiceCategory(table) && !traceDeletion(this, table, code))
-        return;
-    reloadAndSelect(this, neighbourCode);
+    // The product goes with the record of its removal, or stays without one.
+    const bool deleted = inOneTransaction([&] {
+        return run("DELETE FROM " + table + " WHERE Code='" + escaped(code) + "'")
+            && (isServiceCategory(table) || traceDeletion(this, table, code));
+    });
+    reloadAndSelect(this, deleted ? neighbourCode : code);
 }

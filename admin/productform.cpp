@@ -2,8 +2,10 @@
 
 #include "admin.h"
 #include "globals.h"
+#include "tabsupport.h"
 #include "utility.h"
 
+#include <QEvent>
 #include <QPalette>
 #include <QSqlQuery>
 #include <QTreeWidget>
@@ -47,12 +49,13 @@ void setFieldBackground(QLineEdit *field, const QColor &colour)
 
 bool refillSuppliers(Admin *admin, const QString &sql)
 {
+    // Read first: when the read fails (the server away) the combo keeps what it showed.
+    QSqlQuery query;
+    if (!TabSupport::run(query, sql))
+        return false;
     QComboBox *combo = admin->ui.supplier_combo;
     combo->clear();
     combo->addItem(QStringLiteral(" "));
-    QSqlQuery query;
-    if (!query.exec(sql))
-        return !utils->showDBError(query);
     while (query.next())
         combo->addItem(query.value(0).toString());
     return true;
@@ -74,12 +77,54 @@ bool selectCode(Admin *admin, const QString &code)
 {
     QTreeWidget *list = admin->ui.list;
     for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        if (list->topLevelItem(i)->text(0) == code) {
+        if (TabSupport::cell(list->topLevelItem(i), 0) == code) {
             selectItem(admin, list->topLevelItem(i));
             return true;
         }
     }
     return false;
+}
+
+namespace {
+// Remembers which of the code and description fields the user was in last, on the search button:
+// a click on the button takes the focus away from both.
+class SearchFieldWatch : public QObject
+{
+public:
+    explicit SearchFieldWatch(Admin *admin) : QObject(admin), admin(admin) {}
+
+    void remember(QObject *field)
+    {
+        admin->ui.pushButton28->setProperty("searchByCode", field == admin->ui.code_tf);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            remember(watched);
+        return false;
+    }
+
+private:
+    Admin *admin;
+};
+} // namespace
+
+void followSearchFields(Admin *admin)
+{
+    auto *watch = new SearchFieldWatch(admin);
+    for (QLineEdit *field : {admin->ui.code_tf, admin->ui.description_tf}) {
+        field->installEventFilter(watch);
+        QObject::connect(field, &QLineEdit::textEdited, watch, [watch, field] { watch->remember(field); });
+    }
+}
+
+bool searchByCode(Admin *admin)
+{
+    if (admin->ui.code_tf->hasFocus() || admin->ui.description_tf->hasFocus())
+        return admin->ui.code_tf->hasFocus();
+    return admin->ui.pushButton28->property("searchByCode").toBool();
 }
 
 bool dtrShown(Admin *admin)

@@ -35,6 +35,12 @@ void selectItem(Admin *admin, QTreeWidgetItem *item);
 // The same for the row whose column 0 is `code`; false when no row has it.
 bool selectCode(Admin *admin, const QString &code);
 
+// The search looks for the code when the code field has the focus, or, with the focus elsewhere
+// (on the search button itself, once clicked), when it was the last of the code and description
+// fields the user was in; otherwise for the description.
+void followSearchFields(Admin *admin);
+bool searchByCode(Admin *admin);
+
 // The DTR field exists only for the category that has DaysToReminder; it is hidden (not merely
 // off screen) for the others.
 bool dtrShown(Admin *admin);

@@ -159,14 +159,13 @@ void Admin::categorySelected(const QString &)
     ui.dtr_lab->setVisible(vaccination);
 
     QSqlQuery query;
-    const bool ran = query.exec("SELECT  Code, Description, Schedule, UnitOfMeasure, Cost, Price, Quantity, "
-                                "OnOrder, OrderDate,Active FROM " + table + " ORDER BY Active='N',Description");
-    if (!ran && utils->showDBError(query))
+    if (!TabSupport::run(query, "SELECT  Code, Description, Schedule, UnitOfMeasure, Cost, Price, Quantity, "
+                                "OnOrder, OrderDate,Active FROM " + table + " ORDER BY Active='N',Description"))
         return;
     ui.list->clear();
     ui.list->setSortingEnabled(false); // rows stay in the query's order: active first, by description
     ZrListItem *previous = nullptr;
-    while (ran && query.next()) {
+    while (query.next()) {
         ZrListItem *item = previous ? new ZrListItem(ui.list, previous) : new ZrListItem(ui.list);
         addListRow(this, item, query);
         previous = item;
@@ -181,10 +180,8 @@ void Admin::itemSelected(QTreeWidgetItem *item)
     if (!refillSuppliers(this, "SELECT Company From Supply "))
         return;
     QSqlQuery query;
-    if (!query.exec(productQuery(this, item->text(0)))) {
-        utils->showDBError(query);
+    if (!TabSupport::run(query, productQuery(this, TabSupport::cell(item, 0))) || !query.isActive())
         return;
-    }
     // A product deleted meanwhile leaves the form as it was.
     if (!query.next() || query.value(0).isNull())
         return;
@@ -205,18 +202,20 @@ void Admin::clear()
                              ui.cost_tf, ui.markup_tf, ui.quantity_tf, ui.level_tf})
         field->clear();
     ui.sell_tf->setText("0.00");
+    // A new entry is active, and its fields can be typed in, whatever product was shown before.
     ui.active_tb->setChecked(true);
+    setActiveDependentEnabled(this, true);
     refillSuppliers(this, "SELECT Company FROM Supply");
     setTitleColour(this, normalTitleColour());
 }
 
 void Admin::seachDispense()
 {
-    const bool byCode = ui.code_tf->hasFocus();
+    const bool byCode = searchByCode(this);
     const int column = byCode ? 0 : 1;
     const QString wanted = byCode ? ui.code_tf->text() : ui.description_tf->text();
     for (int i = 0; i < ui.list->topLevelItemCount(); ++i) {
-        if (ui.list->topLevelItem(i)->text(column) == wanted) {
+        if (TabSupport::cell(ui.list->topLevelItem(i), column) == wanted) {
             selectItem(this, ui.list->topLevelItem(i));
             return;
         }
@@ -227,12 +226,12 @@ void Admin::seachDispense()
     }
     for (int i = 0; i < ui.list->topLevelItemCount(); ++i) {
         QTreeWidgetItem *item = ui.list->topLevelItem(i);
-        if (item->text(1).contains(wanted, Qt::CaseInsensitive)) {
+        if (TabSupport::cell(item, 1).contains(wanted, Qt::CaseInsensitive)) {
             selectItem(this, item);
             Prompter::inform(this, tr("Search By Description"),
                              tr("<b></b>The exact match of <b>%1</b> was not found.<p>The closest match "
                                 "<b>%2</b> has been chosen")
-                                 .arg(wanted, item->text(1)));
+                                 .arg(wanted, TabSupport::cell(item, 1)));
             return;
         }
     }
@@ -250,7 +249,7 @@ void Admin::dispense_entry_changed()
     QTreeWidgetItem *current = ui.list->currentItem();
     if (current && current->isSelected())
         setTitleColour(this, UnsavedColour);
-    if (current && current->text(0) == ui.code_tf->text()) {
+    if (current && TabSupport::cell(current, 0) == ui.code_tf->text()) {
         ui.pushButton30->blockSignals(false);
         return;
     }

@@ -5,6 +5,8 @@
 #include "globals.h"
 #include "productform.h"
 #include "prompter.h"
+#include "session.h"
+#include "tabsupport.h"
 #include "utility.h"
 
 #include <QApplication>
@@ -38,6 +40,7 @@ void Admin::stockLevelTrace()
     const QString code = ui.code_tf->text();
     const QString table = currentCategoryTable();
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    Session::ensureOpen();
     QSqlQuery query;
     double received = 0.0;
     double dispensed = 0.0;
@@ -53,16 +56,14 @@ void Admin::stockLevelTrace()
     case Trace:
         utils->stockItemTraceAudit(code, table);
         break;
-    case Adjust: {
-        ui.quantity_tf->setText(Utility::numStr(onHand, 2));
-        QSqlQuery update;
-        if (update.exec("UPDATE " + table + " SET Quantity=" + QString::number(onHand, 'g', 15) + " WHERE Code='"
-                        + utils->escapeSQL(code, false) + "'"))
+    case Adjust:
+        // The field shows the corrected level once it is stored, not before.
+        if (TabSupport::run("UPDATE " + table + " SET Quantity=" + QString::number(onHand, 'g', 15) + " WHERE Code='"
+                            + TabSupport::escaped(code) + "'")) {
+            ui.quantity_tf->setText(Utility::numStr(onHand, 2));
             ProductForm::setFieldBackground(ui.quantity_tf, QColor(0, 0, 255));
-        else
-            utils->showDBError(update);
+        }
         break;
-    }
     default:
         break;
     }

@@ -14,12 +14,13 @@ using namespace TabSupport;
 
 namespace {
 
-// The changing statements report a failure and carry on: the list is re-read either way.
-void runAndShow(const QString &sql)
+// The form's texts with their columns of Supply, in the order the statements write them.
+QList<ColumnText> supplierTexts(const Ui::Admin &ui)
 {
-    QSqlQuery query;
-    if (!query.exec(sql))
-        utils->showDBError(query);
+    return {{"Company", ui.company_tf->text()},          {"Contact", ui.contact_tf->text()},
+            {"Email", ui.email_tf->text()},              {"Tel", ui.phone_tf->text()},
+            {"Fax", ui.fax_tf->text()},                  {"Cell", ui.cell_tf->text()},
+            {"PostalAddr", ui.postal_tf->toPlainText()}, {"PhysicalAddr", ui.collection_tf->toPlainText()}};
 }
 
 // Only one of several rows under the same name goes. PostgreSQL has no DELETE ... LIMIT, so
@@ -30,7 +31,7 @@ QString deleteStatement(const QString &escapedCompany)
                               ? "DELETE from Supply WHERE keynum=(SELECT keynum FROM Supply WHERE "
                                 "Company='%s' ORDER BY keynum LIMIT 1)"
                               : "DELETE from Supply WHERE Company='%s' LIMIT 1";
-    return latin1Format(pattern, {escapedCompany});
+    return formatted(pattern, {escapedCompany});
 }
 
 } // namespace
@@ -39,10 +40,13 @@ void Admin::refreshSuppliers()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QSqlQuery query;
-    // A failed read returns at once and leaves the wait cursor set.
+    // A failed read returns at once, with the wait cursor gone: a server away for a restart must not
+    // leave the window looking busy for good.
     if (!run(query, QString("SELECT  Company,Contact,Email,Tel,Fax,Cell,PostalAddr,")
-                        + "PhysicalAddr, Lab FROM Supply ORDER BY Company"))
+                        + "PhysicalAddr, Lab FROM Supply ORDER BY Company")) {
+        QApplication::restoreOverrideCursor();
         return;
+    }
     ui.supply_list->clear();
     ZrListItem *last = nullptr;
     while (query.next()) {
@@ -84,22 +88,24 @@ void Admin::clearSupply()
     ui.cell_tf->clear();
 }
 
-// Nothing is checked: an empty company, or one already listed, is added as it is.
+// An empty company, or one already listed, is added as it is; only a text too long for its column
+// stops it.
+// The changing statements report a failure and carry on: the list is re-read either way.
 void Admin::newSupplier()
 {
     const QString caption = tr("Add Supplier");
+    const QList<ColumnText> texts = supplierTexts(ui);
+    if (!textsFit(this, caption, "Supply", texts))
+        return;
     if (!confirmed(this, caption,
                    tr("Confirm that you will add %1\nto the list of suppliers with the details shown.")
                        .arg(ui.company_tf->text())))
         return;
-    const QStringList texts{ui.company_tf->text(), ui.contact_tf->text(), ui.email_tf->text(),
-                            ui.phone_tf->text(),   ui.fax_tf->text(),     ui.cell_tf->text(),
-                            ui.postal_tf->toPlainText(), ui.collection_tf->toPlainText()};
     QString sql = QString("INSERT INTO  Supply (Company, Contact, Email, Tel, Fax, Cell, ")
                 + "PostalAddr, PhysicalAddr, Lab) values ('";
-    for (const QString &text : texts)
-        sql += escaped(text) + "','";
-    runAndShow(sql + flag(ui.lab_tb) + "')");
+    for (const ColumnText &text : texts)
+        sql += escaped(text.text) + "','";
+    run(sql + flag(ui.lab_tb) + "')");
     refreshSuppliers();
 }
 
@@ -113,18 +119,16 @@ void Admin::updateSupplier()
         return;
     }
     const QString company = item->text(0);
+    const QList<ColumnText> texts = supplierTexts(ui);
+    if (!textsFit(this, caption, "Supply", texts))
+        return;
     if (!confirmed(this, caption,
                    tr("Confirm that you will update %1\nin the list of suppliers with the details shown.").arg(company)))
         return;
-    const QList<QPair<QString, QString>> columns{
-        {"Company", ui.company_tf->text()},          {"Contact", ui.contact_tf->text()},
-        {"Email", ui.email_tf->text()},              {"Tel", ui.phone_tf->text()},
-        {"Fax", ui.fax_tf->text()},                  {"Cell", ui.cell_tf->text()},
-        {"PostalAddr", ui.postal_tf->toPlainText()}, {"PhysicalAddr", ui.collection_tf->toPlainText()}};
     QString sql = "UPDATE Supply SET ";
-    for (const auto &column : columns)
-        sql += column.first + "='" + escaped(column.second) + "',";
-    runAndShow(sql + "Lab='" + flag(ui.lab_tb) + "'" + "WHERE Company='" + escaped(company) + "'");
+    for (const ColumnText &text : texts)
+        sql += text.column + "='" + escaped(text.text) + "',";
+    run(sql + "Lab='" + flag(ui.lab_tb) + "'" + "WHERE Company='" + escaped(company) + "'");
     refreshSuppliers();
 }
 
@@ -139,6 +143,6 @@ void Admin::deleteSupplier()
     const QString company = item->text(0);
     if (!confirmed(this, caption, tr("Confirm that you will delete %1\nfrom the list of suppliers.").arg(company)))
         return;
-    runAndShow(deleteStatement(escaped(company)));
+    run(deleteStatement(escaped(company)));
     refreshSuppliers();
 }

@@ -97,6 +97,21 @@ QString askNewUser(Admin *admin, const QString &label, QLineEdit::EchoMode echo)
     return QString();
 }
 
+// The name, code and initials fit their columns, and the commission is a number. Asked before the
+// new user's rights are granted or the user's details changed.
+bool userAcceptable(Admin *admin, const QString &caption, const QList<ColumnText> &texts)
+{
+    return numbersRead(admin, caption, {{Admin::tr("commission"), admin->ui.lineEdit45->text()}})
+        && textsFit(admin, caption, "Operators", texts);
+}
+
+// The class as the suite stores it: the untranslated word of the class shown, whatever language
+// the window speaks.
+QString currentClass(const Admin *admin)
+{
+    return Rights::classNames().value(admin->ui.class_combo->currentIndex(), Rights::classNames().last());
+}
+
 // Every description that classChanged offers for the class, one insert each.
 bool grantClass(Admin *admin, const QString &escapedName, int index)
 {
@@ -124,15 +139,21 @@ void Admin::newUser()
     const QString code = askNewUser(this, tr("Enter the user code"), QLineEdit::Password);
     if (code.isEmpty())
         return;
-    const QString escapedName = utils->escapeSQL(name, false);
-    // An empty commission is written as 0 on every engine: it must not stop the user being created.
-    if (!run(QString("INSERT INTO Operators (Operator, id,Initials,Diary,Commission) ") + "VALUES ('" + escapedName
-             + "', '" + utils->escapeSQL(code, false) + "', '" + utils->escapeSQL(initials, false) + "', '"
-             + flag(ui.checkBox6) + "', '" + numberText(ui.lineEdit45->text()) + "')"))
+    if (!userAcceptable(this, tr("New User"), {{"Operator", name}, {"id", code}, {"Initials", initials}}))
         return;
-    for (int index = 0; index < Rights::classNames().size(); ++index)
-        if (!grantClass(this, escapedName, index))
-            return;
+    const QString escapedName = utils->escapeSQL(name, false);
+    // The user and every right, or none of them: a user left with some rights would look complete.
+    // An empty commission is written as 0 on every engine: it must not stop the user being created.
+    inOneTransaction([&] {
+        if (!run(QString("INSERT INTO Operators (Operator, id,Initials,Diary,Commission) ") + "VALUES ('"
+                 + escapedName + "', '" + utils->escapeSQL(code, false) + "', '" + utils->escapeSQL(initials, false)
+                 + "', '" + flag(ui.checkBox6) + "', '" + numberText(ui.lineEdit45->text()) + "')"))
+            return false;
+        for (int index = 0; index < Rights::classNames().size(); ++index)
+            if (!grantClass(this, escapedName, index))
+                return false;
+        return true;
+    });
     classChanged(0);
     reloadData();
 }
@@ -152,9 +173,11 @@ void Admin::deleteUser()
     }
     if (!confirmed(this, caption, tr("Confirm that you will remove user '%1' from the system").arg(name)))
         return;
-    if (!run("DELETE FROM Permissions WHERE Operator='" + utils->escapeSQL(name, false) + "'")
-        || !run("DELETE FROM Operators WHERE id='" + utils->escapeSQL(ui.userCode_tf->text(), false) + "'"))
-        return;
+    // Rights and user go together, or both stay.
+    inOneTransaction([&] {
+        return run("DELETE FROM Permissions WHERE Operator='" + utils->escapeSQL(name, false) + "'")
+            && run("DELETE FROM Operators WHERE id='" + utils->escapeSQL(ui.userCode_tf->text(), false) + "'");
+    });
     reloadData();
 }
 
@@ -167,6 +190,8 @@ void Admin::updateUserId()
         return;
     }
     const QString name = currentUser(this);
+    if (!userAcceptable(this, caption, {{"id", ui.userCode_tf->text()}, {"Initials", ui.initials_tf->text()}}))
+        return;
     if (!confirmed(this, caption,
                    tr("Confirm that you will update user '%1'\nto have a new user Code %2,Initials %3, and "
                       "Commission %4")
@@ -190,10 +215,10 @@ void Admin::newPermission()
     const QString user = currentUser(this);
     const QString right = ui.class_combo->currentText();
     const QString description = ui.desc_combo->currentText();
-    const QStringList values{utils->escapeSQL(user, false), utils->escapeSQL(right, false),
+    const QStringList values{utils->escapeSQL(user, false), utils->escapeSQL(currentClass(this), false),
                              utils->escapeSQL(description, false)};
     QSqlQuery query;
-    if (!run(query, latin1Format("SELECT keynum FROM Permissions WHERE Operator='%s' and  Class='%s' AND "
+    if (!run(query, formatted("SELECT keynum FROM Permissions WHERE Operator='%s' and  Class='%s' AND "
                                  "Description='%s'",
                                  values)))
         return;
@@ -203,7 +228,7 @@ void Admin::newPermission()
     }
     if (!confirmed(this, caption, tr("Confirm that you will add  '%1 : %2' to user '%3'").arg(right, description, user)))
         return;
-    if (!run(latin1Format("INSERT INTO Permissions (Operator,Class,Description) VALUES ('%s','%s','%s')", values)))
+    if (!run(formatted("INSERT INTO Permissions (Operator,Class,Description) VALUES ('%s','%s','%s')", values)))
         return;
     reloadData();
 }
@@ -222,7 +247,7 @@ void Admin::deletePermission()
                    tr("Confirm that you will remove '%1 : %2' from user '%3'").arg(item->text(0), item->text(1), user)))
         return;
     if (!run("DELETE FROM Permissions WHERE Operator='" + utils->escapeSQL(user, false) + "' AND Class='"
-             + item->text(0) + "' AND Description='" + utils->escapeSQL(item->text(1), false) + "'"))
+             + utils->escapeSQL(cell(item, 0), false) + "' AND Description='" + utils->escapeSQL(cell(item, 1), false) + "'"))
         return;
     reloadData();
 }

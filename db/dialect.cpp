@@ -1,10 +1,10 @@
 #include "dialect.h"
 
 #include "globals.h"
+#include "session.h"
 
 #include <QSettings>
 #include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QStringList>
 
 namespace Dialect {
@@ -49,11 +49,9 @@ QString connectOptions(const QString &qtDriver)
 
 void prepareSession(QSqlDatabase &db)
 {
-    if (db.driverName().startsWith(QLatin1String("QMYSQL"))) {
-        // MariaDB reads || as OR unless told otherwise; the reports concatenate with it when the
-        // setting names Qt's own "QMYSQL".
-        QSqlQuery(db).exec("SET SESSION sql_mode=CONCAT(@@sql_mode, ',PIPES_AS_CONCAT')");
-    }
+    // The suite library prepares a connection it opens again after the server went away the same
+    // way, so the settings live there.
+    Session::prepare(db);
 }
 
 Engine connectedEngine()

@@ -3,6 +3,7 @@
 #include "globals.h"
 #include "logindialog.h"
 #include "prompter.h"
+#include "session.h"
 #include "traceaudit.h"
 
 #include <QApplication>
@@ -116,11 +117,38 @@ bool Utility::showDBError(const QSqlQuery &query)
 
 bool Utility::showDBError(const QSqlError &error, const QString &statement)
 {
+    if (Session::isLost(error))
+        return reportLostConnection(error);
     QString text = tr("The database reported an error.\n\nDriver: %1\nDatabase: %2")
                        .arg(error.driverText(), error.databaseText());
     if (!statement.isEmpty())
         text += tr("\n\nStatement:\n%1").arg(statement);
     Prompter::critical(QApplication::activeWindow(), tr("Quorel Database Error"), text);
+    return true;
+}
+
+// The statement is not run again: the user decides whether to repeat what they were doing (a
+// repeated INSERT would write twice). The connection is opened again at once, so that their next
+// action works without a restart of the program.
+bool Utility::reportLostConnection(const QSqlError &error)
+{
+    if (Session::lossReported())
+        return true;
+    const bool reopened = Session::reopen();
+    QString server = error.databaseText().trimmed();
+    if (server.isEmpty())
+        server = error.driverText().trimmed();
+    if (server.isEmpty())
+        server = tr("The connection to the server had been closed.");
+    const QString next = reopened ? tr("The connection has been opened again: you can carry on, and repeat what "
+                                       "you were doing.")
+                                  : tr("The server cannot be reached yet. The program tries again with your next "
+                                       "action.");
+    Prompter::critical(QApplication::activeWindow(), tr("Quorel Database Error"),
+                       tr("The database could not be reached, and the change was not made.\n\n%1\n\n"
+                          "The server said:\n%2")
+                           .arg(next, server));
+    Session::markLossReported();
     return true;
 }
 
@@ -220,6 +248,9 @@ void Utility::showHelp()
     if (!helpWindow) {
         helpWindow = new QTextBrowser;
         helpWindow->setObjectName("QuorelHelp");
+        // Read beside the main window, and gone with it: an open help window must not keep the
+        // program (and its connection) running once the main window is closed.
+        helpWindow->setAttribute(Qt::WA_QuitOnClose, false);
         helpWindow->setWindowTitle(tr("Quorel Admin Help"));
         helpWindow->setOpenExternalLinks(false);
         helpWindow->resize(640, 560);

@@ -27,7 +27,8 @@ public:
     QString getLogin() const { return login; }
     QString applicationName() const { return appName; }
 
-    // Shows the failed statement's errors; returns true: the caller is to stop.
+    // Shows the failed statement's errors; returns true: the caller is to stop. A connection the
+    // server dropped is said so in plain words, once per action, and opened again.
     bool showDBError(const QSqlQuery &query); // Qt 6 queries are not copied
     // The same for a failure that has no query of its own, such as a data table's submit.
     bool showDBError(const QSqlError &error, const QString &statement = QString());
@@ -64,6 +65,8 @@ public:
     static const QStringList &categories();
 
 private:
+    bool reportLostConnection(const QSqlError &error);
+
     QString appName;
     QString login;
     QString practice;

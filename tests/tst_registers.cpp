@@ -332,8 +332,8 @@ private slots:
         QCOMPARE(contents(), Table({{"Spay 'bitch' \\ large", "Proc", "3", "1", "Y"}}));
     }
 
-    // An item fills the form and is found by what it shows: of the items of its quantity, the oldest changes. A delete
-    // takes every item of that product in the procedure only. A new item is charged whatever the box shows.
+    // An item fills the form and is changed by its line: of two alike, the highlighted one. A delete takes every item of
+    // that product in the procedure only. A new item is charged whatever the box shows.
     void editItems()
     {
         QVERIFY(addProcedure("Other", {"Goods|1|2|Y"}) && addProcedure("Spay", {"Goods|1|2|N", "Goods|1|4|N", "Goods|1|4|N"}));
@@ -344,7 +344,7 @@ private slots:
         ui.auto_list->setCurrentItem(ui.auto_list->topLevelItem(2));
         admin->autoCategorySelected("Medication");
         confirmed(admin, &Admin::updateAutoProcContents);
-        QCOMPARE(contents().mid(1), Table({{"Spay", "Goods", "1", "2", "N"}, {"Spay", "Medication", "7", "4", "N"}, {"Spay", "Goods", "1", "4", "N"}}));
+        QCOMPARE(contents().mid(1), Table({{"Spay", "Goods", "1", "2", "N"}, {"Spay", "Goods", "1", "4", "N"}, {"Spay", "Medication", "7", "4", "N"}}));
         ui.auto_list->setCurrentItem(ui.auto_list->topLevelItem(0));
         confirmed(admin, &Admin::deleteAutoProcContents);
         ui.auto_desc_combo->setCurrentIndex(ui.auto_desc_combo->findText("Cotton 'wool' \\ roll"));

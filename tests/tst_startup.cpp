@@ -47,8 +47,9 @@ private:
     Settings live;          // the engine's test database
 
     // Runs start-up on `keys`, answering the login dialogs with `logins` ("id/code"), then cancelling.
-    // Once the main window's event loop runs, it ends by closing the window, or by exit(loopExit) when
-    // that is not negative.
+    // Once the main window's event loop runs, it ends by closing the window (with the help window open
+    // beside it when loopExit is -2), or by exit(loopExit) when that is not negative. A loop still
+    // running 5 s after the window closed is ended, and said so in `shown`.
     int run(const Settings &keys, QStringList logins, int loopExit = -1)
     {
         QSettings file("Zephron", "Quorel");
@@ -77,6 +78,12 @@ private:
             auto *tabs = window->findChild<QTabWidget *>();
             for (int i = 0; tabs && i < tabs->count(); ++i)
                 shown << tabs->tabText(i);
+            if (loopExit == -2)
+                utils->showHelp();
+            QTimer::singleShot(5000, &poll, [this] {
+                shown << "still running";
+                QCoreApplication::exit(1);
+            });
             loopExit < 0 ? void(window->close()) : QCoreApplication::exit(loopExit);
         });
         poll.start(20);
@@ -149,6 +156,7 @@ private slots:
         QTest::newRow("login cancelled") << live << none << -1 << asked << none << "settings connection";
         QTest::newRow("admin, window closed") << live << admin << -1 << asked << english << ran;
         QTest::newRow("event loop returns 5") << live << admin << 5 << asked << english << ran;
+        QTest::newRow("admin, window closed beside the help") << live << admin << -2 << asked << english << ran;
         QTest::newRow("others are asked again")
             << live << QStringList{"bob/bob", "bob/bob", "Admin/Admin", "admin/bob", "admin/admin"} << -1
             << QStringList{"login: ", "login: ", "login: ", "login: ", "login: The login id or code is not correct. Try again."}

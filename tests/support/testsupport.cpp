@@ -206,6 +206,29 @@ QList<QStringList> rows(const QString &sql)
     return result;
 }
 
+bool insert(const QString &table, const QString &columns, const QVariantList &values)
+{
+    QSqlQuery query;
+    query.prepare("INSERT INTO " + table + " (" + columns + ") VALUES (" + QStringList(values.size(), "?").join(',') + ")");
+    for (const QVariant &value : values)
+        query.addBindValue(value);
+    if (query.exec())
+        return true;
+    qWarning("insert into %s: %s", qPrintable(table), qPrintable(query.lastError().text()));
+    return false;
+}
+
+Admin *openCategory(const QString &table, const QString &code)
+{
+    Admin *admin = makeAdmin();
+    admin->ui.category_combo->setCurrentText(table);
+    admin->categorySelected(admin->ui.category_combo->currentText());
+    if (!code.isNull())
+        admin->ui.list->setCurrentItem(admin->ui.list->findItems(code, Qt::MatchExactly).value(0), 0,
+                                       QItemSelectionModel::ClearAndSelect);
+    return admin;
+}
+
 Admin *makeAdmin()
 {
     delete window;

@@ -44,8 +44,14 @@ QVariant value(const QString &sql);
 // Every row, each column as text (NULL as the empty text).
 QList<QStringList> rows(const QString &sql);
 
+// Inserts one row with bound values, independently of the statements under test; `columns` are
+// comma-separated.
+bool insert(const QString &table, const QString &columns, const QVariantList &values);
+
 // The window, constructed offscreen on the fresh schema (deleted by cleanup()).
 Admin *makeAdmin();
+// The window showing the category `table`, with the row under `code` highlighted when it is listed.
+Admin *openCategory(const QString &table, const QString &code = QString());
 
 class ScriptedPrompter;
 ScriptedPrompter *prompter();
