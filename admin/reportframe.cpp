@@ -3,6 +3,7 @@
 #include "admin.h"
 #include "dialect.h"
 #include "globals.h"
+#include "tabsupport.h"
 #include "utility.h"
 #include "zrlistitem.h"
 
@@ -109,10 +110,12 @@ void ReportFrame::flush()
     list->addTopLevelItems(items);
 }
 
+// Through the tabs' statement runner, so that a report after the server came back runs on the
+// connection opened again, as every other statement does.
 bool ReportFrame::run(QSqlQuery &query, const QString &sql)
 {
     query.setForwardOnly(true);
-    return query.exec(sql) || !utils->showDBError(query);
+    return TabSupport::run(query, sql);
 }
 
 QDate ReportFrame::start() const

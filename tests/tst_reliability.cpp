@@ -3,6 +3,7 @@
 #include "admin.h"
 #include "noteed.h"
 #include "remarksicons.h"
+#include "reportpractice.h"
 #include "testsupport.h"
 
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <QSqlRecord>
 #include <QSqlTableModel>
 #include <QTranslator>
+#include <QApplication>
 #include <QtTest>
 #include <algorithm>
 #include <memory>
@@ -290,6 +292,40 @@ private slots:
         QCOMPARE(errors(), QStringList());
         QVERIFY(snapshot() != stored);
         QCOMPARE(listsAstray(admin), QStringList());
+    }
+
+    // A report finds the server gone like any other statement: one message, no rows, the cursor back; once the server
+    // is there again the next run lists the same rows as before, without a message.
+    void reportAfterTheServerWentAway_data()
+    {
+        QTest::addColumn<bool>("away"); // stopped for a while instead of restarted
+        QTest::newRow("server restarted") << false;
+        if (!sqlite())
+            QTest::newRow("server away for a while") << true;
+    }
+    void reportAfterTheServerWentAway()
+    {
+        QFETCH(bool, away);
+        Admin *admin = TestSupport::makeAdmin();
+        ReportPractice::choose(admin, 17); // Stock Values: one statement per category
+        admin->processQuery();
+        const QList<QStringList> listed = ReportPractice::rows(admin);
+        QVERIFY(!listed.isEmpty());
+        QVERIFY(server(away ? "stop" : "restart"));
+
+        admin->processQuery();
+
+        QCOMPARE(errors(), sqlite() ? QStringList() : QStringList{lost(!away)});
+        QVERIFY(!QApplication::overrideCursor());
+        QCOMPARE(ReportPractice::rows(admin), sqlite() ? listed : QList<QStringList>());
+        QVERIFY(!away || server("resume"));
+        QCoreApplication::processEvents(); // the action is over
+        prompter()->calls.clear();
+
+        admin->processQuery();
+
+        QCOMPARE(errors(), QStringList());
+        QCOMPARE(ReportPractice::rows(admin), listed);
     }
 
     // The server drops the connection with the new user and three classes of rights written in its transaction: the
