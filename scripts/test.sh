@@ -10,6 +10,10 @@ bash "$root/scripts/install-deps.sh"
 cmake -S "$root" -B "$build" -DQUOREL_SANITIZE=ON -DQUOREL_WERROR=ON -DQUOREL_BENCH=OFF >/dev/null
 cmake --build "$build" -j"$(nproc)"
 
+# The Debian package, built from a release tree of its own and checked; counted as one test more.
+package_failed=0
+bash "$root/scripts/package-check.sh" || package_failed=1
+
 servers=$(mktemp -d)
 trap 'bash "$root/scripts/dbservers.sh" stop "$servers"; rm -rf "$servers"' EXIT
 bash "$root/scripts/dbservers.sh" start "$servers"
@@ -29,10 +33,11 @@ summary=$(grep -E '^[0-9]+% tests passed, [0-9]+ tests? failed out of [0-9]+' "$
 if [[ -n $summary ]]; then
     failed=$(sed -E 's/.* ([0-9]+) tests? failed out of ([0-9]+).*/\1/' <<<"$summary")
     total=$(sed -E 's/.* failed out of ([0-9]+).*/\1/' <<<"$summary")
+    failed=$((failed + package_failed)) total=$((total + 1))
     echo "$((total - failed)) passed, $failed failed"
     [[ $failed -eq 0 ]] || status=1
 else
-    echo "0 passed, 1 failed"
+    echo "0 passed, $((1 + package_failed)) failed"
     status=1
 fi
 exit $status
