@@ -6,7 +6,8 @@ set -euo pipefail
 packages=(build-essential cmake qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools
           qt6-l10n-tools libqt6sql6-sqlite libqt6sql6-mysql libqt6sql6-psql libgl-dev
           mariadb-server mariadb-client postgresql python3 xvfb xauth
-          dpkg-dev librsvg2-bin lintian desktop-file-utils appstream man-db file)
+          dpkg-dev librsvg2-bin lintian desktop-file-utils appstream man-db file
+          poppler-utils)
 
 missing=()
 for p in "${packages[@]}"; do

@@ -104,5 +104,11 @@ int WidgetPrompter::exec(QDialog *dialog)
 bool WidgetPrompter::setupPrinter(QPrinter *printer, QWidget *parent)
 {
     QPrintDialog dialog(printer, parent);
+    // The program prints whole pages: there is no selection or current page to offer, and a
+    // range offered on the printer is the most that can be chosen.
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    if (printer->printRange() == QPrinter::PageRange && printer->toPage() > 0)
+        dialog.setMinMax(1, printer->toPage());
     return dialog.exec() == QDialog::Accepted;
 }

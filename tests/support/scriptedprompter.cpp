@@ -1,6 +1,7 @@
 #include "testsupport.h"
 
 #include <QDialog>
+#include <QPrinter>
 
 using TestSupport::ScriptedPrompter;
 
@@ -11,6 +12,10 @@ void ScriptedPrompter::answerInt(int value) { answers.enqueue(value); }
 void ScriptedPrompter::cancel() { answers.enqueue(QVariant()); }
 void ScriptedPrompter::answerDialog(std::function<int(QDialog *)> handler) { dialogHandlers.enqueue(std::move(handler)); }
 void ScriptedPrompter::answerPrinter(bool accept) { answers.enqueue(accept); }
+void ScriptedPrompter::answerPrinter(const QString &pdf, int from, int to)
+{
+    answers.enqueue(QVariantMap{{"pdf", pdf}, {"from", from}, {"to", to}});
+}
 
 QStringList ScriptedPrompter::messageTexts() const
 {
@@ -95,7 +100,36 @@ int ScriptedPrompter::exec(QDialog *dialog)
     return dialogHandlers.dequeue()(dialog);
 }
 
-bool ScriptedPrompter::setupPrinter(QPrinter *, QWidget *)
+namespace {
+QString offeredPages(const QPrinter *printer)
 {
-    return nextInput(call("setupPrinter", QString()), nullptr).toBool();
+    if (printer->printRange() != QPrinter::PageRange)
+        return QString();
+    return QString("%1-%2").arg(printer->fromPage()).arg(printer->toPage());
+}
+
+void printToPdf(QPrinter *printer, const QVariantMap &answer)
+{
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(answer.value("pdf").toString());
+    const int from = answer.value("from").toInt();
+    if (from == ScriptedPrompter::AllPages) {
+        printer->setPrintRange(QPrinter::AllPages);
+        printer->setPageRanges(QPageRanges());
+    } else if (from > 0) {
+        printer->setPrintRange(QPrinter::PageRange);
+        printer->setFromTo(from, answer.value("to").toInt());
+    }
+}
+} // namespace
+
+bool ScriptedPrompter::setupPrinter(QPrinter *printer, QWidget *)
+{
+    Call c = call("setupPrinter", printer->docName(), printer->creator());
+    c.pages = offeredPages(printer);
+    const QVariant answer = nextInput(c, nullptr);
+    if (answer.userType() != QMetaType::QVariantMap)
+        return answer.toBool();
+    printToPdf(printer, answer.toMap());
+    return true;
 }

@@ -74,12 +74,13 @@ public:
     struct Call {
         QString kind;        // "message", "getText", "getItem", "getInt", "getSaveFileName", "exec", "setupPrinter"
         int icon = -1;       // Prompter::Icon for messages
-        QString caption;
-        QString text;        // message text or input label
+        QString caption;     // for setupPrinter the printer's document name
+        QString text;        // message text or input label; for setupPrinter the printer's creator
         QStringList buttons; // message buttons, or the items of getItem
         int defaultIndex = -1;
         int echo = -1;       // QLineEdit::EchoMode of getText
         QString dialogName;  // object name of the dialog given to exec()
+        QString pages;       // setupPrinter: the page range offered, "from-to", empty when none
     };
     QList<Call> calls;
 
@@ -89,6 +90,11 @@ public:
     void cancel();                                            // the next input is cancelled
     void answerDialog(std::function<int(QDialog *)> handler); // exec(): fill the dialog, return its result
     void answerPrinter(bool accept);                          // setupPrinter
+    // setupPrinter accepted with the printer writing a PDF to `pdf`: the range offered left as it
+    // is (from = 0), pages `from` to `to`, or every page (from = AllPages, as a person choosing
+    // "All" in the dialog, which clears the range).
+    enum { AllPages = -1 };
+    void answerPrinter(const QString &pdf, int from = 0, int to = 0);
     int pending() const { return answers.size(); }
     const Call &last() const { return calls.last(); }
     QStringList messageTexts() const;                        // the texts of every message so far
