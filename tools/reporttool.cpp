@@ -1,6 +1,7 @@
 #include "reporttool.h"
 
 #include "admin.h"
+#include "plot.h"
 #include "reportprompter.h"
 
 #include <QDialog>
@@ -10,7 +11,9 @@
 #include <QPainter>
 #include <QTemporaryFile>
 #include <QTreeWidget>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <functional>
 
 namespace ReportTool {
@@ -122,6 +125,7 @@ Outcome writeThrough(const QString &target, const QString &suffix, ReportPrompte
     return {};
 }
 
+// As a person highlights every row before Graph.
 void highlightAll(Admin *admin)
 {
     QTreeWidget *list = admin->ui.report_list;
@@ -130,13 +134,15 @@ void highlightAll(Admin *admin)
     list->selectAll();
 }
 
+// Every row, as Export writes the highlighted ones; a report without rows gives its titles alone.
 Outcome writeCsv(Admin *admin, ReportPrompter *prompter, const QString &target)
 {
     return writeThrough(target, "csv", prompter, [&](const QString &file) {
-        highlightAll(admin);
-        prompter->saveFileName = file;
-        admin->exportQuery();
-        prompter->saveFileName.clear();
+        QList<const QTreeWidgetItem *> rows;
+        for (int i = 0; i < admin->ui.report_list->topLevelItemCount(); ++i)
+            rows << admin->ui.report_list->topLevelItem(i);
+        if (!admin->exportRows(file, rows))
+            prompter->said << ReportPrompter::Said{Prompter::Warning, QString(), QString("cannot write %1").arg(target)};
     });
 }
 
@@ -152,11 +158,11 @@ Outcome writePdf(Admin *admin, ReportPrompter *prompter, const QString &target)
 
 // The chart the window's Graph shows: a PDF through its own Print, a picture through the same
 // drawing onto an image.
-void saveChart(QDialog *plot, ReportPrompter *prompter, const QString &file)
+void saveChart(Plot *plot, ReportPrompter *prompter, const QString &file)
 {
     if (file.endsWith(".pdf")) {
         prompter->pdfFileName = file;
-        QMetaObject::invokeMethod(plot, "print", Qt::DirectConnection);
+        plot->print();
         prompter->pdfFileName.clear();
         return;
     }
@@ -164,7 +170,7 @@ void saveChart(QDialog *plot, ReportPrompter *prompter, const QString &file)
     image.fill(Qt::white);
     {
         QPainter painter(&image);
-        QMetaObject::invokeMethod(plot, "redraw", Qt::DirectConnection, Q_ARG(QPainter *, &painter));
+        plot->redraw(&painter);
     }
     image.save(file, "PNG");
 }
@@ -174,8 +180,9 @@ Outcome writeChart(Admin *admin, ReportPrompter *prompter, const QString &target
     const QString suffix = QFileInfo(target).suffix().toLower();
     return writeThrough(target, suffix, prompter, [&](const QString &file) {
         highlightAll(admin);
-        prompter->dialogHandler = [&](QDialog *plot) {
-            saveChart(plot, prompter, file);
+        prompter->dialogHandler = [&](QDialog *dialog) {
+            if (auto *plot = qobject_cast<Plot *>(dialog))
+                saveChart(plot, prompter, file);
             return int(QDialog::Accepted);
         };
         admin->graphQuery();
