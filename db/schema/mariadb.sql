@@ -165,7 +165,9 @@ CREATE TABLE Journal (
     Amount DOUBLE DEFAULT 0,
     Rounding DOUBLE DEFAULT 0,
     KEY journal_number (MyNumber, Description),
-    KEY journal_account (AccountNumber, MyDate),
+    -- A client's entries by date, with their kind and value: the client reports' balances and totals
+    -- are read from the index alone.
+    KEY journal_account (AccountNumber, MyDate, Description, Amount, Rounding),
     KEY journal_date (MyDate)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_bin;
 

@@ -184,7 +184,9 @@ CREATE TABLE Journal (
 );
 
 CREATE INDEX journal_number ON Journal (MyNumber, Description);
-CREATE INDEX journal_account ON Journal (AccountNumber, MyDate);
+-- A client's entries by date, with their kind and value: the client reports' balances and totals are
+-- read from the index alone.
+CREATE INDEX journal_account ON Journal (AccountNumber, MyDate, Description, Amount, Rounding);
 CREATE INDEX journal_date ON Journal (MyDate);
 
 CREATE TABLE Operators (

@@ -225,6 +225,11 @@ bool seed(const QDate &anchor)
         && seedJournal(anchor);
 }
 
+bool insert(const QString &table, const QStringList &columns, const QList<QList<QVariant>> &rows)
+{
+    return ::insert(table, columns, rows);
+}
+
 void choose(Admin *admin, int index)
 {
     admin->ui.type_combo->setCurrentIndex(index);

@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QList>
 #include <QStringList>
+#include <QVariant>
 
 class Admin;
 
@@ -17,6 +18,9 @@ namespace ReportPractice {
 
 // Writes the practice into the fresh schema; false on the first failed statement (printed).
 bool seed(const QDate &anchor);
+// Writes rows of its own beside the practice, with bound values (quotes and backslashes as they
+// are); false on the first failed statement (printed).
+bool insert(const QString &table, const QStringList &columns, const QList<QList<QVariant>> &rows);
 
 // Chooses report `index` the way a person does (type_combo activated: reportMode, clearList).
 void choose(Admin *admin, int index);
