@@ -1,6 +1,7 @@
 #include "reportframe.h"
 
 #include "admin.h"
+#include "dialect.h"
 #include "globals.h"
 #include "utility.h"
 #include "zrlistitem.h"
@@ -8,8 +9,10 @@
 #include <QApplication>
 #include <QDate>
 #include <QHeaderView>
+#include <QLocale>
 #include <QSqlQuery>
 #include <QStatusBar>
+#include <cmath>
 
 namespace {
 const int ReportColumns = 11;
@@ -125,4 +128,31 @@ QDate ReportFrame::end() const
 QString ReportFrame::sqlDate(const QDate &date)
 {
     return QString::asprintf("%04d-%02d-%02d", date.year(), date.month(), date.day());
+}
+
+QString ReportFrame::client(const QVariant &surname, const QVariant &titleAndInitials)
+{
+    return Utility::rot13(surname.toString()) + titleAndInitials.toString();
+}
+
+QString ReportFrame::titleAndInitials(const QString &table)
+{
+    return Dialect::concat({"'  '", table + ".Title", "' '", table + ".Initials"});
+}
+
+QString ReportFrame::codeKey(const QString &code)
+{
+    if (Dialect::connectedEngine() != Dialect::MySQL)
+        return code;
+    QString key = code;
+    while (key.endsWith(QLatin1Char(' ')))
+        key.chop(1);
+    return key;
+}
+
+QString ReportFrame::plainNumber(double value)
+{
+    // Six decimals are more than any quantity or weight is typed with.
+    const double rounded = std::abs(value) < 1e9 ? std::round(value * 1e6) / 1e6 : value;
+    return QString::number(rounded == 0.0 ? 0.0 : rounded, 'g', QLocale::FloatingPointShortest);
 }

@@ -2,6 +2,7 @@
 #define QUOREL_REPORTFRAME_H
 
 #include <QList>
+#include <QVariant>
 #include <QString>
 #include <QStringList>
 
@@ -49,6 +50,8 @@ public:
     // Shows the rows added so far (the frame's end does it too).
     void flush();
     // Runs a statement; false when it failed (shown through showDBError) and the report must stop.
+    // The query is forward-only, and PostgreSQL's driver then fetches rows as they are read: the
+    // next statement run loses the rest, so read one statement's rows before running another.
     bool run(QSqlQuery &query, const QString &sql);
 
     // The start and end dates of the tab.
@@ -59,6 +62,18 @@ public:
 
     // The reset of clearList and of every report: width 0, empty title, automatic alignment.
     static void resetColumns(QTreeWidget *list);
+
+    // The client as the reports show one: the decoded surname followed directly by the text of
+    // titleAndInitials() (which begins with two blanks). A missing client shows as empty text.
+    static QString client(const QVariant &surname, const QVariant &titleAndInitials);
+    // "'  '||<table>.Title||' '||<table>.Initials" in the concatenation of the setting.
+    static QString titleAndInitials(const QString &table);
+    // A code as the connected engine compares it, to look up the figures a statement grouped by
+    // code: MariaDB's collations ignore trailing blanks, so "5 " and "5" are one code there.
+    static QString codeKey(const QString &code);
+    // A stored number as typed ("2", "0.5", "32.25"): the shortest text, without the last-digit
+    // noise that adding binary fractions leaves, which differs with the order an engine adds in.
+    static QString plainNumber(double value);
 
 private:
     Admin *admin;

@@ -153,6 +153,8 @@ CREATE TABLE InvoiceItem (
     KEY invoiceitem_product (Category, Code, MyDate, InvoiceNumber, Quantity),
     KEY invoiceitem_invoice (InvoiceNumber),
     KEY invoiceitem_date (MyDate, Category),
+    -- A category's lines of a period, for the sales reports; the client purchases from it alone.
+    KEY invoiceitem_category_date (Category, MyDate, Petnumber, Description, Quantity),
     KEY invoiceitem_vet (Vet, MyDate),
     KEY invoiceitem_pet (Petnumber)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_bin;

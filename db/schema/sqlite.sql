@@ -160,6 +160,10 @@ CREATE TABLE InvoiceItem (
 CREATE INDEX invoiceitem_product ON InvoiceItem (Category, Code, MyDate, InvoiceNumber, Quantity);
 CREATE INDEX invoiceitem_invoice ON InvoiceItem (InvoiceNumber);
 CREATE INDEX invoiceitem_date ON InvoiceItem (MyDate, Category);
+-- A category's lines of a period (performance, purchases, commission, personnel): without it SQLite
+-- takes the product index for the category and reads every line the category ever had. With the
+-- patient, description and quantity in it, the client purchases are read from the index alone.
+CREATE INDEX invoiceitem_category_date ON InvoiceItem (Category, MyDate, Petnumber, Description, Quantity);
 CREATE INDEX invoiceitem_vet ON InvoiceItem (Vet, MyDate);
 CREATE INDEX invoiceitem_pet ON InvoiceItem (Petnumber);
 

@@ -1,9 +1,12 @@
 #include "reportpractice.h"
 
 #include "admin.h"
+#include "globals.h"
+#include "testsupport.h"
 #include "zrlistitem.h"
 
 #include <QHeaderView>
+#include <QSettings>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
@@ -241,6 +244,47 @@ void choose(Admin *admin, int index, const QDate &start, const QDate &end)
     choose(admin, index);
     admin->ui.DateEdit1->setDate(start);
     admin->ui.DateEdit2->setDate(end);
+}
+
+bool prepare(const QStringList &steps)
+{
+    for (const QString &step : steps) {
+        if (step.startsWith('/'))
+            settings->setValue(step.section('=', 0, 0), step.section('=', 1));
+        else if (!TestSupport::exec(step))
+            return false;
+    }
+    return true;
+}
+
+void process(Admin *admin, int index, const QDate &start, const QDate &end, const QList<QVariant> &answers)
+{
+    choose(admin, index, start, end);
+    for (const QVariant &answer : answers) {
+        if (!answer.isValid())
+            TestSupport::prompter()->cancel();
+        else if (answer.typeId() == QMetaType::Int)
+            TestSupport::prompter()->answerInt(answer.toInt());
+        else
+            TestSupport::prompter()->answerText(answer.toString());
+    }
+    admin->ui.PushButton13->click();
+}
+
+QList<QStringList> table(const QStringList &rows)
+{
+    QList<QStringList> result;
+    for (const QString &row : rows)
+        result << row.split('|');
+    return result;
+}
+
+QString lookDigits(Admin *admin)
+{
+    QString digits;
+    for (int look : looks(admin))
+        digits += QString::number(look);
+    return digits;
 }
 
 QList<QStringList> rows(Admin *admin)

@@ -27,6 +27,16 @@ void choose(Admin *admin, int index);
 // Chooses report `index` and sets the start and end dates.
 void choose(Admin *admin, int index, const QDate &start, const QDate &end);
 
+// Prepares a case: each entry is a statement to run, or "/Key=value" for a setting.
+bool prepare(const QStringList &steps);
+// Chooses report `index` with the dates, queues the answers its dialogs get (an int for getInt,
+// a text for getItem, an invalid value to cancel) and presses Process.
+void process(Admin *admin, int index, const QDate &start, const QDate &end, const QList<QVariant> &answers = {});
+// Rows written one a text, cells separated by "|".
+QList<QStringList> table(const QStringList &rows);
+// The rows' looks as one digit each ("0120").
+QString lookDigits(Admin *admin);
+
 // The list's rows in list order, every cell of the columns that have a title, as shown.
 QList<QStringList> rows(Admin *admin);
 // The titles of the columns that have one, in order.

@@ -68,18 +68,22 @@ QString ScriptedPrompter::getText(QWidget *, const QString &caption, const QStri
 }
 
 QString ScriptedPrompter::getItem(QWidget *, const QString &caption, const QString &label, const QStringList &items,
-                                  int, bool, bool *ok)
+                                  int current, bool editable, bool *ok)
 {
     Call c = call("getItem", caption, label);
     c.buttons = items;
+    c.defaultIndex = current;
+    c.editable = editable;
     return nextInput(c, ok).toString();
 }
 
-int ScriptedPrompter::getInt(QWidget *, const QString &caption, const QString &label, int value, int, int, int,
-                             bool *ok)
+int ScriptedPrompter::getInt(QWidget *, const QString &caption, const QString &label, int value, int min, int max,
+                             int step, bool *ok)
 {
+    Call c = call("getInt", caption, label);
+    c.range = {value, min, max, step};
     bool answered = false;
-    const QVariant answer = nextInput(call("getInt", caption, label), &answered);
+    const QVariant answer = nextInput(c, &answered);
     if (ok)
         *ok = answered;
     return answered ? answer.toInt() : value;

@@ -77,7 +77,9 @@ public:
         QString caption;     // for setupPrinter the printer's document name
         QString text;        // message text or input label; for setupPrinter the printer's creator
         QStringList buttons; // message buttons, or the items of getItem
-        int defaultIndex = -1;
+        int defaultIndex = -1;  // a message's default button, or getItem's current item
+        bool editable = false;  // getItem
+        QList<int> range;       // getInt: value, minimum, maximum, step
         int echo = -1;       // QLineEdit::EchoMode of getText
         QString dialogName;  // object name of the dialog given to exec()
         QString pages;       // setupPrinter: the page range offered, "from-to", empty when none
