@@ -157,6 +157,10 @@ private slots:
         QTest::newRow("Client Debt/Credit") << 14 << 0 << QString() << QStringList();
         QTest::newRow("All Clients") << 20 << 0 << QString() << QStringList();
         QTest::newRow("New Clients Detailed, a year") << 10 << 12 << QString() << QStringList();
+        QTest::newRow("Goods Performance, monthly") << 0 << 0 << QString("Monthly") << QStringList{"--mode", "monthly"};
+        QTest::newRow("Goods Performance, daily") << 0 << 0 << QString("Daily") << QStringList{"--mode", "daily"};
+        QTest::newRow("Stock Levels of Medication") << 16 << 0 << QString("Medication")
+                                                    << QStringList{"--category", "Medication"};
     }
 
     void writesTheFilesTheWindowWrites()
@@ -182,6 +186,28 @@ private slots:
         QVERIFY(printed.size() > 1);
         QCOMPARE(PdfPages::text(out->filePath("tool.pdf")), printed);
         QCOMPARE(folderEntries(out->path()).size(), 4); // nothing else left beside them
+    }
+
+    void anEndBeforeTheStartListsNoRows()
+    {
+        const ToolRun run = tool({"--report", "New Clients Detailed", "--from", today.toString(Qt::ISODate), "--to",
+                                  today.addYears(-1).toString(Qt::ISODate), "--csv", out->filePath("none.csv")});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QList<QByteArray> lines = contents(out->filePath("none.csv")).split('\n');
+        QCOMPARE(lines.value(1), QByteArray("\"Number of Clients\",0,\"\",\"\",\"\",\"\",\"\""));
+        QCOMPARE(lines.size(), 3);
+    }
+
+    void progressGoesToStandardErrorUnlessQuiet()
+    {
+        const QStringList report{"--report", "0", "--mode", "daily", "--csv", out->filePath("goods.csv")};
+        const ToolRun told = tool(report);
+        QCOMPARE(told.status, 0);
+        QVERIFY2(told.err.contains("quorel-report: Processing Bone Treats\n"), qPrintable(told.err));
+        QCOMPARE(told.out, QString());
+        const ToolRun quiet = tool(report + QStringList{"--quiet"});
+        QCOMPARE(quiet.status, 0);
+        QCOMPARE(quiet.err, QString());
     }
 
     void aReportWithoutRowsGivesItsTitles()
@@ -224,6 +250,9 @@ private slots:
                                           << "quorel-report: nothing to write";
         QTest::newRow("no such table") << QStringList{"--report", "16", "--category", "Kennels", csv, "x.csv"} << 1
                                        << "quorel-report: ";
+        QTest::newRow("a category that is no table name")
+            << QStringList{"--report", "16", "--category", "Goods; DROP TABLE Owner", csv, "x.csv"} << 2
+            << "quorel-report: \"Goods; DROP TABLE Owner\" is not the name of a table. A category is";
     }
 
     void refusesWhatItCannotUse()

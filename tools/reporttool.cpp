@@ -98,7 +98,7 @@ Outcome outcomeOf(const ReportPrompter *prompter)
         if (box.icon == Prompter::Critical)
             return {1, box.text};
     if (!prompter->said.isEmpty())
-        return refused(prompter->said.first().text);
+        return refused(QString(prompter->said.first().text).replace('\n', ' ').simplified());
     return {};
 }
 
