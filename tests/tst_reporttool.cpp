@@ -186,6 +186,8 @@ private slots:
         QVERIFY(printed.size() > 1);
         QCOMPARE(PdfPages::text(out->filePath("tool.pdf")), printed);
         QCOMPARE(folderEntries(out->path()).size(), 4); // nothing else left beside them
+        QCOMPARE(QFileInfo(out->filePath("tool.csv")).permissions() & QFile::ReadOther,
+                 QFileInfo(csv).permissions() & QFile::ReadOther); // as readable as any file made here
     }
 
     void anEndBeforeTheStartListsNoRows()

@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <sys/stat.h>
 
 namespace ReportTool {
 
@@ -112,6 +113,11 @@ Outcome writeThrough(const QString &target, const QString &suffix, ReportPrompte
     if (!temporary.open())
         return refused(QString("cannot write %1: %2").arg(target, temporary.errorString()));
     temporary.close();
+    // A temporary file is the owner's alone; the report is a file like any other, readable as the
+    // umask allows (a shared folder's readers need it).
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    ::chmod(QFile::encodeName(temporary.fileName()).constData(), 0666 & ~mask);
     prompter->said.clear();
     write(temporary.fileName());
     const Outcome outcome = outcomeOf(prompter);
