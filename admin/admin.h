@@ -41,6 +41,9 @@ public:
         qint32 currentPage = 0;
     };
     ReportState report;
+    // Writes the list's column titles and `rows` as Export does; false when the file could not be
+    // written. Export and the headless tool both write through it.
+    bool exportRows(const QString &fileName, const QList<const QTreeWidgetItem *> &rows);
 
 public slots:
     virtual void polish();

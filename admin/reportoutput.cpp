@@ -275,13 +275,14 @@ void Admin::exportQuery()
     }
     if (!name.endsWith(".csv"))
         name += ".csv";
-    bool written = false;
-    {
-        Waiting waiting;
-        written = writeCsv(name, ui.report_list, rows);
-    }
-    if (!written)
+    if (!exportRows(name, rows))
         Prompter::warn(this, tr("Quorel"), tr("Can't create %1").arg(name));
+}
+
+bool Admin::exportRows(const QString &fileName, const QList<const QTreeWidgetItem *> &rows)
+{
+    Waiting waiting;
+    return writeCsv(fileName, ui.report_list, rows);
 }
 
 void Admin::graphQuery()

@@ -3,7 +3,8 @@
 // listed, the median time of its runs and, on MariaDB, the number of statements it sent (the
 // session's Questions counter before and after one more run). The inputs: performance reports
 // monthly from today, date ranges over the last month, Client Purchases over the last year,
-// Stock Levels on Goods, Drug Levels from schedule 0.
+// Stock Levels on Goods, Drug Levels from schedule 0. With --export each run also writes every
+// row as Export does, which is what quorel-report --csv does after the report.
 #include "admin.h"
 #include "benchsupport.h"
 #include "dialect.h"
@@ -12,6 +13,7 @@
 #include <QCommandLineParser>
 #include <QDate>
 #include <QSqlQuery>
+#include <QTemporaryDir>
 #include <QTreeWidget>
 #include <cstdio>
 
@@ -89,6 +91,15 @@ void printPractice()
                 BenchSupport::number("SELECT COUNT(*) FROM Goods"));
 }
 
+// Every row of the list, as Export writes the highlighted ones.
+void exportAll(Admin *admin, const QString &file)
+{
+    QList<const QTreeWidgetItem *> rows;
+    for (int i = 0; i < admin->ui.report_list->topLevelItemCount(); ++i)
+        rows << admin->ui.report_list->topLevelItem(i);
+    admin->exportRows(file, rows);
+}
+
 int runBench(const QCommandLineParser &parser)
 {
     BenchSupport::Prompter prompter;
@@ -99,12 +110,17 @@ int runBench(const QCommandLineParser &parser)
     std::printf("%3s %-28s %8s %10s %10s %10s %11s  (%d runs)\n", "#", "report", "rows", "median ms", "min ms",
                 "max ms", "statements", runs);
     int failures = 0;
+    QTemporaryDir scratch;
+    const QString csv = parser.isSet("export") ? scratch.filePath("report.csv") : QString();
     for (int index : chosenReports(parser)) {
         Admin *a = &admin;
         prompter.messages.clear();
         const BenchSupport::Timing timing = BenchSupport::measure(
-            admin.ui.type_combo->itemText(index), runs, [&] { prepare(a, &prompter, index); },
-            [a] { a->processQuery(); });
+            admin.ui.type_combo->itemText(index), runs, [&] { prepare(a, &prompter, index); }, [a, &csv] {
+                a->processQuery();
+                if (!csv.isEmpty())
+                    exportAll(a, csv);
+            });
         const int rows = admin.ui.report_list->topLevelItemCount();
         const QString statements = statementsOf(a, &prompter, index);
         std::printf("%3d %-28s %8d %10.1f %10.1f %10.1f %11s\n", index, qPrintable(timing.step), rows,
@@ -129,6 +145,7 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     BenchSupport::addOptions(parser, "Runs every report of the Reports tab on a Quorel database and times it.");
     parser.addOption({"report", "Only this catalogue index (may be repeated).", "index"});
+    parser.addOption({"export", "Each run also exports every row, as quorel-report --csv does."});
     parser.process(app);
     QString error;
     const int status = BenchSupport::open(parser, &error) ? runBench(parser)
