@@ -182,6 +182,14 @@ QString Utility::numStr(double value, int decimals)
 double Utility::strNum(const QString &text, bool *ok)
 {
     QString t = text.trimmed();
+    // Most texts read here on export are names, not numbers: what cannot begin a number is none,
+    // without the locale's full parse (which only turned them down more slowly).
+    const QChar first = t.isEmpty() ? QChar() : t.front();
+    if (!first.isDigit() && first != QLatin1Char('-') && first != QLatin1Char('+') && first != QLatin1Char('.')) {
+        if (ok)
+            *ok = false;
+        return 0.0;
+    }
     t.remove(QLatin1Char(' '));
     // The C locale takes "1,234.50" but not "12,5": a comma that does not group thousands is no
     // number rather than a silent factor of ten.

@@ -72,7 +72,8 @@ private slots:
             QCOMPARE(Utility::calcTax(amount, rate), tax);
         // A comma groups thousands or makes no number at all (0 here).
         for (const auto &[text, number] : Rows<const char *, double>{
-                 {".5", 0.5}, {" 1 234.5 ", 1234.5}, {"1,234,567.8", 1234567.8}, {"12,5", 0}, {"", 0}, {"12abc", 0}, {"inf", 0}}) {
+                 {".5", 0.5}, {" 1 234.5 ", 1234.5}, {"1,234,567.8", 1234567.8}, {"12,5", 0}, {"", 0}, {"12abc", 0}, {"inf", 0},
+                 {" -12.50", -12.5}, {"+3", 3}, {"-", 0}, {"Smith 12", 0}, {"e5", 0}}) {
             bool ok = number == 0; // the opposite of what must be reported; the list is built in order
             QCOMPARE(QVariantList({Utility::strNum(text, &ok), ok}), QVariantList({number, number != 0}));
         }
