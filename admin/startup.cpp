@@ -113,6 +113,16 @@ QWidget *mainWindow()
     return theMainWindow;
 }
 
+void installLanguage(QApplication &app)
+{
+    const QString installDir = settings->value("/Global/InstallDir", "/opt/zephron").toString();
+    const QString lang = settings->value("/Personal/Lang", "").toString();
+    installTranslator(app, installDir + "/i18n/Quorel/qrlib." + lang + ".qm");
+    installTranslator(app, installDir + "/i18n/Quorel/admin." + lang + ".qm");
+    // Month and day names (a chart's axis, a report's month) in the catalogues' language too.
+    QLocale::setDefault(lang.isEmpty() ? QLocale::system() : QLocale(lang));
+}
+
 int run(QApplication &app)
 {
     preparePersonalFolder();
@@ -121,11 +131,7 @@ int run(QApplication &app)
     app.addLibraryPath(installDir + "/lib");
     applyStyle(app);
     std::unique_ptr<QWidget> splash(showSplash(app, installDir));
-    const QString lang = settings->value("/Personal/Lang", "").toString();
-    installTranslator(app, installDir + "/i18n/Quorel/qrlib." + lang + ".qm");
-    installTranslator(app, installDir + "/i18n/Quorel/admin." + lang + ".qm");
-    // Month and day names (a chart's axis, a report's month) in the catalogues' language too.
-    QLocale::setDefault(lang.isEmpty() ? QLocale::system() : QLocale(lang));
+    installLanguage(app);
 
     if (!openDatabase()) {
         app.quit();

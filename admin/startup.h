@@ -9,6 +9,10 @@ namespace Startup {
 // database, the shared helper, the login and the main window's run. Returns the exit status:
 // 0 after a normal run, -1 after a start-up failure.
 int run(QApplication &app);
+// The language of "/Personal/Lang": the suite library's and the program's catalogues from the
+// installation folder, and the default locale's month and day names. The headless report tool
+// takes it as the window does.
+void installLanguage(QApplication &app);
 // The main window while it exists.
 QWidget *mainWindow();
 } // namespace Startup

@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <QtTest>
 
 namespace {
@@ -210,6 +211,23 @@ private slots:
         const ToolRun quiet = tool(report + QStringList{"--quiet"});
         QCOMPARE(quiet.status, 0);
         QCOMPARE(quiet.err, QString());
+    }
+
+    // The report's texts are the window's: in the language of the settings, from the same catalogues.
+    void speaksTheLanguageOfTheSettings()
+    {
+        QDir installDir(QCoreApplication::applicationDirPath()); // the build is laid out as an installation
+        while (!installDir.exists("i18n/Quorel/admin.af.qm") && installDir.cdUp()) {}
+        QTranslator catalogue;
+        QVERIFY(catalogue.load(installDir.filePath("i18n/Quorel/admin.af.qm")));
+        setBoth("/Global/InstallDir", installDir.absolutePath());
+        setBoth("/Personal/Lang", "af");
+        const ToolRun run = tool({"--report", "Stock Values", "--csv", out->filePath("stock.csv")});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QString titles = QString("\"%1\",\"%2\"\n").arg(catalogue.translate("Admin", "Category"),
+                                                               catalogue.translate("Admin", "Value OH"));
+        QVERIFY(!titles.contains("Category"));
+        QVERIFY(contents(out->filePath("stock.csv")).startsWith(titles.toUtf8()));
     }
 
     void aReportWithoutRowsGivesItsTitles()

@@ -8,6 +8,7 @@
 #include "globals.h"
 #include "reportprompter.h"
 #include "reporttool.h"
+#include "startup.h"
 #include "utility.h"
 
 #include <QApplication>
@@ -152,6 +153,7 @@ int work(const QCommandLineParser &parser)
     std::unique_ptr<QSettings> effective(
         ConnectionOptions::effectiveSettings(parser, store, scratch.filePath("Quorel.conf")));
     settings = effective.get();
+    Startup::installLanguage(*qApp);
     ReportPrompter prompter;
     Prompter::install(&prompter);
     int status = openDatabase(&error) ? 0 : say(1, error);
