@@ -1,4 +1,5 @@
 #include "tabsupport.h"
+#include "admin.h"
 #include "columns.h"
 #include "globals.h"
 #include "prompter.h"
@@ -18,11 +19,6 @@ namespace {
 // A connection found closed is opened again before a statement, but not in the middle of a
 // transaction: the statements after it would run outside of it, and the change be half made.
 bool transactionOpen = false;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("Admin", text);
-}
 
 // The typed number, or false when it is none. The integer columns take 32 bits on every server.
 bool typedValue(const QString &typed, bool whole, double *value)
@@ -94,7 +90,7 @@ bool confirmed(QWidget *parent, const QString &caption, const QString &text)
 
 void cancelled(QWidget *parent, const QString &caption)
 {
-    Prompter::inform(parent, caption, translated("Operation cancelled"));
+    Prompter::inform(parent, caption, Admin::tr("Operation cancelled"));
 }
 
 QString escaped(const QString &text)
@@ -141,12 +137,12 @@ bool textsFit(QWidget *parent, const QString &caption, const QString &table, con
             continue;
         const QString kept = Columns::stored(text.text);
         const QString size = width.characters >= 0 && kept.toUcs4().size() > width.characters
-            ? translated("It has %1 characters; the field takes at most %2.")
+            ? Admin::tr("It has %1 characters; the field takes at most %2.")
                   .arg(kept.toUcs4().size())
                   .arg(width.characters)
-            : translated("It takes %1 bytes; the field takes at most %2.").arg(kept.toUtf8().size()).arg(width.bytes);
+            : Admin::tr("It takes %1 bytes; the field takes at most %2.").arg(kept.toUtf8().size()).arg(width.bytes);
         Prompter::warn(parent, caption,
-                       translated("The text \"%1\" is too long. %2\n\nShorten it; nothing was saved.")
+                       Admin::tr("The text \"%1\" is too long. %2\n\nShorten it; nothing was saved.")
                            .arg(opening(text.text), size));
         return false;
     }
@@ -160,10 +156,10 @@ bool numbersRead(QWidget *parent, const QString &caption, const QList<TypedNumbe
         if (typedValue(number.text, number.whole, &value))
             continue;
         Prompter::warn(parent, caption,
-                       (number.whole ? translated("The %1 \"%2\" is not a whole number.")
-                                     : translated("The %1 \"%2\" is not a number."))
+                       (number.whole ? Admin::tr("The %1 \"%2\" is not a whole number.")
+                                     : Admin::tr("The %1 \"%2\" is not a number."))
                                .arg(number.name, number.text)
-                           + translated("\n\nType digits, with a point before any decimals; an empty field counts "
+                           + Admin::tr("\n\nType digits, with a point before any decimals; an empty field counts "
                                         "as 0. Nothing was saved."));
         return false;
     }
