@@ -267,8 +267,8 @@ void Admin::processPersonnelPerformance()
     const QStringList &categories = Utility::categories();
     ReportFrame frame(this);
     QList<ReportFrame::Column> columns{{tr("Personnel"), 100}};
-    for (const QString &category : categories)
-        columns.append({category, 75, category != categories.first()});
+    for (const QString &category : categories) // the category's caption, as the product tab shows it
+        columns.append({tr(category.toLatin1().constData()), 75, category != categories.first()});
     (void)reportDefinition(tr("Personnel Performance Report"),
                            QList<ReportFrame::Column>(columns) << ReportFrame::Column{tr("Total")});
     columns.append({tr("Total Sales."), 80, true});
