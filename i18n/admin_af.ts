@@ -77,7 +77,7 @@
     </message>
     <message>
         <location line="+10"/>
-        <location filename="../admin/breeds.cpp" line="+49"/>
+        <location filename="../admin/breeds.cpp" line="+43"/>
         <source>Alt Lang</source>
         <translation>Alt. taal</translation>
     </message>
@@ -99,6 +99,9 @@
     <message>
         <location line="+5"/>
         <location line="+464"/>
+        <location filename="../admin/salesreports.cpp" line="+212"/>
+        <location filename="../admin/stockreports.cpp" line="+133"/>
+        <location line="+16"/>
         <source>Category</source>
         <translation>Kategorie</translation>
     </message>
@@ -176,6 +179,8 @@
         <location line="+5"/>
         <location line="+13"/>
         <location line="+427"/>
+        <location filename="../admin/stockreports.cpp" line="-52"/>
+        <location line="+114"/>
         <source>Code</source>
         <translation>Kode</translation>
     </message>
@@ -186,6 +191,9 @@
         <location line="+279"/>
         <location filename="../admin/breeds.cpp" line="-1"/>
         <location filename="../admin/clientreports.cpp" line="+178"/>
+        <location filename="../admin/salesreports.cpp" line="-28"/>
+        <location line="+28"/>
+        <location filename="../admin/stockreports.cpp" line="-61"/>
         <source>Description</source>
         <translation>Beskrywing</translation>
     </message>
@@ -193,6 +201,7 @@
         <location line="-437"/>
         <location line="+26"/>
         <location line="+141"/>
+        <location filename="../admin/stockreports.cpp" line="+61"/>
         <source>Schedule</source>
         <translation>Skedule</translation>
     </message>
@@ -380,7 +389,7 @@
     </message>
     <message>
         <location line="+3"/>
-        <location filename="../admin/stocktrace.cpp" line="+23"/>
+        <location filename="../admin/stocktrace.cpp" line="+25"/>
         <source>Trace</source>
         <translation>Naspoor</translation>
     </message>
@@ -468,6 +477,8 @@
     <message>
         <location line="+5"/>
         <location line="+61"/>
+        <location filename="../admin/salesreports.cpp" line="+33"/>
+        <location line="+2"/>
         <source>Commission</source>
         <translation>Kommissie</translation>
     </message>
@@ -483,7 +494,7 @@
     </message>
     <message>
         <location line="+5"/>
-        <location filename="../admin/users.cpp" line="+189"/>
+        <location filename="../admin/users.cpp" line="+214"/>
         <source>Add Permission</source>
         <translation>Voeg toestemming by</translation>
     </message>
@@ -495,19 +506,20 @@
     </message>
     <message>
         <location line="+4"/>
-        <location filename="../admin/users.cpp" line="-123"/>
+        <location filename="../admin/users.cpp" line="-148"/>
+        <location line="+51"/>
         <source>New User</source>
         <translation>Nuwe gebruiker</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location filename="../admin/users.cpp" line="+73"/>
+        <location filename="../admin/users.cpp" line="+45"/>
         <source>Update User</source>
         <translation>Opdateer gebruiker</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location filename="../admin/users.cpp" line="-21"/>
+        <location filename="../admin/users.cpp" line="-23"/>
         <source>Delete User</source>
         <translation>Skrap gebruiker</translation>
     </message>
@@ -678,7 +690,7 @@
     </message>
     <message>
         <location line="+3"/>
-        <location filename="../admin/breeds.cpp" line="+36"/>
+        <location filename="../admin/breeds.cpp" line="+90"/>
         <location line="+4"/>
         <source>Delete Breed</source>
         <translation>Skrap ras</translation>
@@ -776,6 +788,10 @@
     <message>
         <location line="+11"/>
         <location line="+23"/>
+        <location filename="../admin/salesreports.cpp" line="-34"/>
+        <location filename="../admin/stockreports.cpp" line="-113"/>
+        <location line="+51"/>
+        <location line="+63"/>
         <source>Quantity</source>
         <translation>Hoeveelheid</translation>
     </message>
@@ -816,6 +832,7 @@
     </message>
     <message>
         <location line="+4"/>
+        <location filename="../admin/salesreports.cpp" line="+60"/>
         <source>Total</source>
         <translation>Totaal</translation>
     </message>
@@ -840,7 +857,12 @@
         <translation>VERLAAT</translation>
     </message>
     <message>
-        <location filename="../admin/autoprocs.cpp" line="+155"/>
+        <location filename="../admin/autoprocs.cpp" line="+31"/>
+        <source>quantity</source>
+        <translation>hoeveelheid</translation>
+    </message>
+    <message>
+        <location line="+156"/>
         <source>New Auto Procedure</source>
         <translation>Nuwe outoprosedure</translation>
     </message>
@@ -850,7 +872,8 @@
         <translation>Tik die naam van die nuwe outoprosedure</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+19"/>
+        <location line="+2"/>
         <source>Update Automated Procedure</source>
         <translation>Opdateer outoprosedure</translation>
     </message>
@@ -870,17 +893,17 @@
         <translation>Bevestig dat u die outoprosedure &apos;%1&apos; uit die stelsel wil skrap</translation>
     </message>
     <message>
-        <location line="+12"/>
+        <location line="+14"/>
         <source>New Procedure Composition</source>
         <translation>Nuwe item in die prosedure</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Confirm that you wish to add the Automated Procedure Composition &apos;%1&apos;</source>
         <translation>Bevestig dat u &apos;%1&apos; by die outoprosedure wil voeg</translation>
     </message>
     <message>
-        <location line="+42"/>
+        <location line="+32"/>
         <source>Update Composition</source>
         <translation>Opdateer die inhoud</translation>
     </message>
@@ -890,17 +913,17 @@
         <translation>U moet &apos;n item van die prosedure merk om dit op te dateer</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+1"/>
         <source>Update Procedure Composition</source>
         <translation>Opdateer item in die prosedure</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="+3"/>
         <source>Confirm that you wish to update the Automated Procedure Composition &apos;%1&apos;</source>
         <translation>Bevestig dat u die item &apos;%1&apos; van die outoprosedure wil opdateer</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+15"/>
         <source>Delete Composition</source>
         <translation>Skrap uit die inhoud</translation>
     </message>
@@ -920,7 +943,12 @@
         <translation>Bevestig dat u die item &apos;%1&apos; uit die outoprosedure wil skrap</translation>
     </message>
     <message>
-        <location filename="../admin/breeds.cpp" line="-4"/>
+        <location filename="../admin/breeds.cpp" line="-64"/>
+        <source>Breeds</source>
+        <translation>Rasse</translation>
+    </message>
+    <message>
+        <location line="+60"/>
         <source>You must highlight a breed to delete</source>
         <translation>U moet &apos;n ras merk om dit te skrap</translation>
     </message>
@@ -930,8 +958,8 @@
         <translation>Bevestig dat u die ras &apos;%1&apos; wil skrap</translation>
     </message>
     <message>
-        <location filename="../admin/practice.cpp" line="+67"/>
-        <location filename="../admin/tabsupport.cpp" line="+33"/>
+        <location filename="../admin/practice.cpp" line="+94"/>
+        <location filename="../admin/tabsupport.cpp" line="+93"/>
         <source>Operation cancelled</source>
         <translation>Handeling gekanselleer</translation>
     </message>
@@ -941,18 +969,29 @@
         <translation>Quorel Admin</translation>
     </message>
     <message>
+        <location line="-29"/>
+        <source>first tax rate</source>
+        <translation>eerste belastingkoers</translation>
+    </message>
+    <message>
         <location line="+1"/>
+        <source>second tax rate</source>
+        <translation>tweede belastingkoers</translation>
+    </message>
+    <message>
+        <location line="+29"/>
         <source>Confirm that you wish to update the system information as shown ?</source>
         <translation>Bevestig dat u die stelselinligting soos getoon wil opdateer?</translation>
     </message>
     <message>
-        <location line="+1"/>
+        <location line="-3"/>
+        <location line="+4"/>
         <source>Update System Information</source>
         <translation>Opdateer stelselinligting</translation>
     </message>
     <message>
         <location filename="../admin/pricing.cpp" line="+104"/>
-        <location filename="../admin/reportoutput.cpp" line="+284"/>
+        <location filename="../admin/reportoutput.cpp" line="+279"/>
         <source>Quorel</source>
         <translation>Quorel</translation>
     </message>
@@ -977,24 +1016,60 @@
         <translation>&amp;Opslag</translation>
     </message>
     <message>
-        <location filename="../admin/productedit.cpp" line="+26"/>
+        <location filename="../admin/productedit.cpp" line="+27"/>
         <source>&lt;font color=&quot;red&quot;&gt;No supplier has been selected.&lt;/font&gt;&lt;p&gt;This is not recommended and may cause problems with reports and orders.&lt;p&gt;Do you wish to continue ?</source>
         <translation>&lt;font color=&quot;red&quot;&gt;Geen verskaffer is gekies nie.&lt;/font&gt;&lt;p&gt;Dit word nie aanbeveel nie en kan probleme met verslae en bestellings veroorsaak.&lt;p&gt;Wil u voortgaan?</translation>
     </message>
     <message>
         <location line="+38"/>
-        <location line="+126"/>
+        <location line="+147"/>
+        <location line="+2"/>
         <location line="+3"/>
         <source>New Entry</source>
         <translation>Nuwe inskrywing</translation>
     </message>
     <message>
-        <location line="-128"/>
+        <location line="-151"/>
         <source>The product %1 is already allocated Code %2</source>
         <translation>Die produk %1 het reeds die kode %2</translation>
     </message>
     <message>
-        <location line="+99"/>
+        <location line="+57"/>
+        <source>cost</source>
+        <translation>kosprys</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>mark-up</source>
+        <translation>opslag</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>selling price</source>
+        <translation>verkoopprys</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>re-order level</source>
+        <translation>herbestelvlak</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>quantity to order up to</source>
+        <translation>hoeveelheid om tot te bestel</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>quantity on order</source>
+        <translation>hoeveelheid op bestelling</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>number of days to the reminder</source>
+        <translation>aantal dae tot die herinnering</translation>
+    </message>
+    <message>
+        <location line="+58"/>
         <source>Deletion of item from stock.</source>
         <translation>Item uit voorraad geskrap.</translation>
     </message>
@@ -1004,15 +1079,16 @@
         <translation>Bevestig dat u die produk %1 met kode %2 wil byvoeg</translation>
     </message>
     <message>
-        <location line="+25"/>
+        <location line="+26"/>
         <location line="+6"/>
-        <location line="+3"/>
-        <location line="+5"/>
+        <location line="+4"/>
+        <location line="+2"/>
+        <location line="+4"/>
         <source>Modify Entry</source>
         <translation>Wysig inskrywing</translation>
     </message>
     <message>
-        <location line="-14"/>
+        <location line="-16"/>
         <source>You must highlight an entry to modify</source>
         <translation>U moet &apos;n inskrywing merk om dit te wysig</translation>
     </message>
@@ -1022,7 +1098,7 @@
         <translation>Die kode en die beskrywing mag nie leeg wees nie</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+7"/>
         <source>Confirm that you will update the highlighted entry
 %1, Code %2
 with the values shown ?</source>
@@ -1031,7 +1107,7 @@ with the values shown ?</source>
 met die getoonde waardes wil opdateer?</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+20"/>
         <location line="+8"/>
         <source>Delete Entry</source>
         <translation>Skrap inskrywing</translation>
@@ -1051,7 +1127,7 @@ from the system?</source>
 uit die stelsel wil skrap?</translation>
     </message>
     <message>
-        <location filename="../admin/products.cpp" line="+225"/>
+        <location filename="../admin/products.cpp" line="+224"/>
         <source>Search By Code</source>
         <translation>Soek volgens kode</translation>
     </message>
@@ -1116,37 +1192,37 @@ Op hande: %5</translation>
         <translation>Berekening van die voorraadvlak</translation>
     </message>
     <message>
-        <location filename="../admin/suppliers.cpp" line="+90"/>
+        <location filename="../admin/suppliers.cpp" line="+96"/>
         <source>Add Supplier</source>
         <translation>Voeg verskaffer by</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+5"/>
         <source>Confirm that you will add %1
 to the list of suppliers with the details shown.</source>
         <translation>Bevestig dat u %1
 met die getoonde besonderhede by die lys verskaffers wil voeg.</translation>
     </message>
     <message>
-        <location line="+17"/>
+        <location line="+14"/>
         <source>Update Supplier</source>
         <translation>Opdateer verskaffer</translation>
     </message>
     <message>
         <location line="+3"/>
-        <location line="+24"/>
+        <location line="+22"/>
         <source>You have not selected a valid supplier. Try again.</source>
         <translation>U het nie &apos;n geldige verskaffer gekies nie. Probeer weer.</translation>
     </message>
     <message>
-        <location line="-19"/>
+        <location line="-14"/>
         <source>Confirm that you will update %1
 in the list of suppliers with the details shown.</source>
         <translation>Bevestig dat u %1
 in die lys verskaffers met die getoonde besonderhede wil opdateer.</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+11"/>
         <source>Delete Supplier</source>
         <translation>Skrap verskaffer</translation>
     </message>
@@ -1158,7 +1234,12 @@ from the list of suppliers.</source>
 uit die lys verskaffers wil skrap.</translation>
     </message>
     <message>
-        <location filename="../admin/users.cpp" line="-25"/>
+        <location filename="../admin/users.cpp" line="-60"/>
+        <source>commission</source>
+        <translation>kommissie</translation>
+    </message>
+    <message>
+        <location line="+29"/>
         <source>Enter the new users name</source>
         <translation>Tik die nuwe gebruiker se naam</translation>
     </message>
@@ -1173,7 +1254,7 @@ uit die lys verskaffers wil skrap.</translation>
         <translation>Tik die gebruikerskode</translation>
     </message>
     <message>
-        <location line="+21"/>
+        <location line="+27"/>
         <source>You must have a user selected to perform a delete</source>
         <translation>U moet &apos;n gebruiker kies om te skrap</translation>
     </message>
@@ -1188,12 +1269,12 @@ uit die lys verskaffers wil skrap.</translation>
         <translation>Bevestig dat u die gebruiker &apos;%1&apos; uit die stelsel wil verwyder</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="+15"/>
         <source>You must have a user selected to perform an update</source>
         <translation>U moet &apos;n gebruiker kies om op te dateer</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+7"/>
         <source>Confirm that you will update user &apos;%1&apos;
 to have a new user Code %2,Initials %3, and Commission %4</source>
         <translation>Bevestig dat u die gebruiker &apos;%1&apos;
@@ -1250,6 +1331,9 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
         <location line="+47"/>
         <location line="+30"/>
         <location line="+25"/>
+        <location filename="../admin/salesreports.cpp" line="-61"/>
+        <location filename="../admin/stockreports.cpp" line="-64"/>
+        <location line="+48"/>
         <source>Client</source>
         <translation>Kliënt</translation>
     </message>
@@ -1258,6 +1342,8 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
         <location line="+110"/>
         <location line="+48"/>
         <location line="+29"/>
+        <location filename="../admin/salesreports.cpp" line="+0"/>
+        <location filename="../admin/stockreports.cpp" line="+0"/>
         <source>Acc No.</source>
         <translation>Rek. nr.</translation>
     </message>
@@ -1305,6 +1391,7 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
     <message>
         <location line="+1"/>
         <location line="+55"/>
+        <location filename="../admin/salesreports.cpp" line="+86"/>
         <source>Grand Total</source>
         <translation>Groottotaal</translation>
     </message>
@@ -1382,7 +1469,7 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
         <translation>Onbekend</translation>
     </message>
     <message>
-        <location filename="../admin/reportoutput.cpp" line="-19"/>
+        <location filename="../admin/reportoutput.cpp" line="-14"/>
         <source>Export Results</source>
         <translation>Voer resultate uit</translation>
     </message>
@@ -1392,12 +1479,12 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
         <translation>U moet inskrywings merk om uit te voer</translation>
     </message>
     <message>
-        <location line="+16"/>
+        <location line="+11"/>
         <source>Can&apos;t create %1</source>
         <translation>Kan nie %1 skep nie</translation>
     </message>
     <message>
-        <location line="+5"/>
+        <location line="+11"/>
         <source>Graph Results</source>
         <translation>Grafiek van resultate</translation>
     </message>
@@ -1410,6 +1497,186 @@ wil opdateer na gebruikerskode %2, voorletters %3 en kommissie %4</translation>
         <location line="+4"/>
         <source>You must highlight entries to chart</source>
         <translation>U moet inskrywings merk om &apos;n grafiek te teken</translation>
+    </message>
+    <message>
+        <location filename="../admin/noteeditor.cpp" line="+41"/>
+        <source>Note Editor</source>
+        <translation>Notaredigeerder</translation>
+    </message>
+    <message>
+        <location filename="../admin/salesreports.cpp" line="-122"/>
+        <source>Quorel Reports</source>
+        <translation>Quorel-verslae</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Select mode for Report</source>
+        <translation>Kies die modus vir die verslag</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Daily</source>
+        <translation>Daagliks</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+3"/>
+        <source>Monthly</source>
+        <translation>Maandeliks</translation>
+    </message>
+    <message>
+        <location line="+18"/>
+        <source>Processing %1</source>
+        <translation>Verwerk %1</translation>
+    </message>
+    <message>
+        <location line="+46"/>
+        <source>Goods Sales Commission Report</source>
+        <translation>Kommissie op goedereverkope</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <location line="+2"/>
+        <source>Sales Person</source>
+        <translation>Verkoopspersoon</translation>
+    </message>
+    <message>
+        <location line="-2"/>
+        <location line="+2"/>
+        <location line="+27"/>
+        <source>Total Sales.</source>
+        <translation>Totale verkope.</translation>
+    </message>
+    <message>
+        <location line="-5"/>
+        <source>Personnel</source>
+        <translation>Personeel</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Personnel Performance Report</source>
+        <translation>Personeelprestasieverslag</translation>
+    </message>
+    <message>
+        <location filename="../admin/stockreports.cpp" line="-99"/>
+        <location line="+114"/>
+        <source>Item</source>
+        <translation>Artikel</translation>
+    </message>
+    <message>
+        <location line="-114"/>
+        <location line="+52"/>
+        <location line="+62"/>
+        <source>UOM</source>
+        <translation>Eenheid</translation>
+    </message>
+    <message>
+        <location line="-114"/>
+        <source>Price</source>
+        <translation>Prys</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Cost</source>
+        <translation>Kosprys</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+35"/>
+        <location line="+79"/>
+        <source>Value OH</source>
+        <translation>Waarde op hande</translation>
+    </message>
+    <message>
+        <location line="-113"/>
+        <source>Quorel Stock Levels</source>
+        <translation>Quorel-voorraadvlakke</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>Choose a category</source>
+        <translation>Kies &apos;n kategorie</translation>
+    </message>
+    <message>
+        <location line="+5"/>
+        <source>&quot;%1&quot; is not the name of a table.
+A category is a product table&apos;s name: letters, digits and underscores, not beginning with a digit.</source>
+        <translation>&quot;%1&quot; is nie die naam van &apos;n tabel nie.
+&apos;n Kategorie is die naam van &apos;n produktabel: letters, syfers en onderstrepe, nie met &apos;n syfer aan die begin nie.</translation>
+    </message>
+    <message>
+        <location line="+41"/>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <location line="+48"/>
+        <source>Invoice No.</source>
+        <translation>Faktuurnr.</translation>
+    </message>
+    <message>
+        <location line="-48"/>
+        <source>Patient</source>
+        <translation>Pasiënt</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>Vet</source>
+        <translation>Veearts</translation>
+    </message>
+    <message>
+        <location line="+33"/>
+        <source>Invoices</source>
+        <translation>Fakture</translation>
+    </message>
+    <message>
+        <location line="+23"/>
+        <source>Drug Report</source>
+        <translation>Medisyneverslag</translation>
+    </message>
+    <message>
+        <location line="+0"/>
+        <source>Enter minimum Schedule no.</source>
+        <translation>Tik die laagste skedulenommer</translation>
+    </message>
+    <message>
+        <location filename="../admin/tabsupport.cpp" line="+47"/>
+        <source>It has %1 characters; the field takes at most %2.</source>
+        <translation>Dit het %1 karakters; die veld neem hoogstens %2.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>It takes %1 bytes; the field takes at most %2.</source>
+        <translation>Dit beslaan %1 grepe; die veld neem hoogstens %2.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The text &quot;%1&quot; is too long. %2
+
+Shorten it; nothing was saved.</source>
+        <translation>Die teks &quot;%1&quot; is te lank. %2
+
+Maak dit korter; niks is gestoor nie.</translation>
+    </message>
+    <message>
+        <location line="+14"/>
+        <source>The %1 &quot;%2&quot; is not a whole number.</source>
+        <translation>Die %1 &quot;%2&quot; is nie &apos;n heelgetal nie.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The %1 &quot;%2&quot; is not a number.</source>
+        <translation>Die %1 &quot;%2&quot; is nie &apos;n getal nie.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>
+
+Type digits, with a point before any decimals; an empty field counts as 0. Nothing was saved.</source>
+        <translation>
+
+Tik syfers, met &apos;n punt voor enige desimale; &apos;n leë veld tel as 0. Niks is gestoor nie.</translation>
     </message>
 </context>
 <context>

@@ -125,7 +125,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../shared/utility.cpp" line="+65"/>
+        <location filename="../shared/utility.cpp" line="+66"/>
         <location line="+6"/>
         <source>Quorel</source>
         <translation>Quorel</translation>
@@ -148,7 +148,7 @@
         <translation>Die aanmeld-ID of kode is nie korrek nie. Probeer weer.</translation>
     </message>
     <message>
-        <location line="+29"/>
+        <location line="+31"/>
         <source>The database reported an error.
 
 Driver: %1
@@ -171,11 +171,42 @@ SQL-stelling:
     </message>
     <message>
         <location line="+1"/>
+        <location line="+21"/>
         <source>Quorel Database Error</source>
         <translation>Quorel-databasisfout</translation>
     </message>
     <message>
-        <location line="+100"/>
+        <location line="-5"/>
+        <source>The connection to the server had been closed.</source>
+        <translation>Die verbinding met die bediener was reeds gesluit.</translation>
+    </message>
+    <message>
+        <location line="+1"/>
+        <source>The connection has been opened again: you can carry on, and repeat what you were doing.</source>
+        <translation>Die verbinding is weer oopgemaak: u kan voortgaan en herhaal wat u besig was om te doen.</translation>
+    </message>
+    <message>
+        <location line="+2"/>
+        <source>The server cannot be reached yet. The program tries again with your next action.</source>
+        <translation>Die bediener kan nog nie bereik word nie. Die program probeer weer met u volgende handeling.</translation>
+    </message>
+    <message>
+        <location line="+3"/>
+        <source>The database could not be reached, and the change was not made.
+
+%1
+
+The server said:
+%2</source>
+        <translation>Die databasis kon nie bereik word nie, en die verandering is nie gemaak nie.
+
+%1
+
+Die bediener het gesê:
+%2</translation>
+    </message>
+    <message>
+        <location line="+114"/>
         <source>Quorel Admin Help</source>
         <translation>Hulp by Quorel Admin</translation>
     </message>
