@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSaveFile>
 #include <QSettings>
 
@@ -90,10 +91,15 @@ QList<const QTreeWidgetItem *> highlightedRows(const QTreeWidget *list)
     return rows;
 }
 
+// The shape of Qt's text date ("Sun Mar 1 2026"), with the day and month names of the window's
+// language: Qt's own text date is English whatever the language.
+const char *const TextDateForm = "ddd MMM d yyyy";
+
 QString pageHeading(const Admin *admin)
 {
     return "<center><h2>Quorel<br>" + admin->ui.ALINE1->text() + "<br>" + admin->ui.type_combo->currentText()
-           + admin->report.subtitle + " - " + admin->ui.DateEdit1->date().toString(Qt::TextDate) + "</h2></center>";
+           + admin->report.subtitle + " - " + QLocale().toString(admin->ui.DateEdit1->date(), TextDateForm)
+           + "</h2></center>";
 }
 
 QString tableHeader(const QList<Column> &columns)

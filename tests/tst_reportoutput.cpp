@@ -184,6 +184,7 @@ private slots:
         QFETCH(Rows, rows);
         QFETCH(QString, subtitle);
         QFETCH(QString, expected);
+        QLocale::setDefault(QLocale::c()); // the day and month names of the heading's date
         setColumns(admin, columns);
         addRows(admin, rows);
         admin->report.subtitle = subtitle;
@@ -193,6 +194,17 @@ private slots:
         // The viewer shows names beyond Latin-1 as the list does.
         for (const QStringList &row : rows)
             QVERIFY(admin->reportViewer()->view()->toPlainText().contains(row.at(1)));
+    }
+
+    // The heading's date reads in the window's language, as its month names do elsewhere.
+    void headingDateInTheWindowsLanguage()
+    {
+        QLocale::setDefault(QLocale("af"));
+        setColumns(admin, {"Name|10|0"});
+        admin->printQuery();
+        const QString page = admin->tableViewLoad();
+        QLocale::setDefault(QLocale::system());
+        QVERIFY2(page.contains("Stock Levels - So. Mrt. 1 2026</h2>"), qPrintable(page));
     }
 
     // Prev on the first page and Next on the last do nothing at all: no new page, the viewer
