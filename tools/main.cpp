@@ -75,16 +75,28 @@ bool createSchema(const Options &options, QString *error)
     return (present.isEmpty() || Schema::dropAll(db, engine, error)) && Schema::create(db, engine, error);
 }
 
-// After a bulk load PostgreSQL has no statistics and no visibility map yet, so it plans blindly
-// and cannot read from indexes alone until autovacuum comes by. A database in use has both; so that
-// the practice behaves (and measures) like one from the start, it is vacuumed and analysed here.
+// After a bulk load the servers plan from statistics of the empty tables: PostgreSQL has none and
+// no visibility map yet, so it cannot read from indexes alone until autovacuum comes by; MariaDB
+// recounts a table only some time after a tenth of it changed, and meanwhile took every patient to
+// have one invoice line (Client Purchases walked all patients' lines instead of the period's, 3 s
+// instead of 0.9 s). A database in use has both up to date; so that the practice behaves (and
+// measures) like one from the start, it is analysed here (and vacuumed, on PostgreSQL).
 bool settle(QString *error)
 {
-    if (Dialect::connectedEngine() != Dialect::PostgreSQL)
-        return true;
+    const QString tables = Schema::tables().join(',');
     QSqlQuery query;
-    if (query.exec("VACUUM ANALYZE " + Schema::tables().join(',')))
+    switch (Dialect::connectedEngine()) {
+    case Dialect::PostgreSQL:
+        if (query.exec("VACUUM ANALYZE " + tables))
+            return true;
+        break;
+    case Dialect::MySQL:
+        if (query.exec("ANALYZE TABLE " + tables))
+            return true;
+        break;
+    default:
         return true;
+    }
     *error = query.lastError().text();
     return false;
 }
