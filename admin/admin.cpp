@@ -14,6 +14,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlTableModel>
+#include <QStatusBar>
 
 Admin::Admin(QWidget *parent, const char *name, Qt::WindowFlags flags)
     : QMainWindow(parent, flags)
@@ -21,6 +22,9 @@ Admin::Admin(QWidget *parent, const char *name, Qt::WindowFlags flags)
     if (name)
         setObjectName(QLatin1String(name));
     ui.setupUi(this);
+    // The reports write their progress here: made with the window, so that the tabs do not move up
+    // when the first message comes.
+    statusBar();
     languageChange();
     resize(minimumSizeHint().expandedTo(QSize(832, 594)));
     makeConnections();
