@@ -6,6 +6,7 @@
 #include "globals.h"
 #include "utility.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QSettings>
@@ -104,12 +105,10 @@ static QSettings *openSettings(const QCommandLineParser &parser)
 bool open(const QCommandLineParser &parser, QString *error)
 {
     settings = openSettings(parser);
-    QSqlDatabase db = Connection::add(Connection::read(*settings));
-    if (!db.open()) {
-        *error = "cannot connect: " + db.lastError().text();
+    if (!Connection::open(*settings, error)) {
+        *error = "cannot connect: " + *error;
         return false;
     }
-    Dialect::prepareSession(db);
     utils = new Utility("Admin");
     if (!utils->initClass(false)) {
         *error = "the practice information could not be read";
@@ -137,6 +136,23 @@ int fail(const char *program, const QString &text)
 {
     std::fprintf(stderr, "%s: %s\n", program, qPrintable(text));
     return 1;
+}
+
+int exec(int argc, char **argv, const char *program, const QString &description,
+         const std::function<void(QCommandLineParser &)> &moreOptions,
+         const std::function<int(const QCommandLineParser &)> &body)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QCommandLineParser parser;
+    addOptions(parser, description);
+    moreOptions(parser);
+    parser.process(app);
+    QString error;
+    const int status = open(parser, &error) ? body(parser) : fail(program, error);
+    close();
+    return status;
 }
 
 long long number(const QString &sql)

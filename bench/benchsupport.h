@@ -58,6 +58,12 @@ void close();
 int runs(const QCommandLineParser &parser);
 
 int fail(const char *program, const QString &text);
+
+// A benchmark program's life: offscreen unless a platform is named, the connection options and
+// `moreOptions`, the connection and `utils`, then `body`, whose result is the exit status.
+int exec(int argc, char **argv, const char *program, const QString &description,
+         const std::function<void(QCommandLineParser &)> &moreOptions,
+         const std::function<int(const QCommandLineParser &)> &body);
 // The first value of a statement as a number (-1 when it fails).
 long long number(const QString &sql);
 

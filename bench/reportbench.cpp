@@ -139,17 +139,11 @@ int runBench(const QCommandLineParser &parser)
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QCommandLineParser parser;
-    BenchSupport::addOptions(parser, "Runs every report of the Reports tab on a Quorel database and times it.");
-    parser.addOption({"report", "Only this catalogue index (may be repeated).", "index"});
-    parser.addOption({"export", "Each run also exports every row, as quorel-report --csv does."});
-    parser.process(app);
-    QString error;
-    const int status = BenchSupport::open(parser, &error) ? runBench(parser)
-                                                           : BenchSupport::fail("quorel-reportbench", error);
-    BenchSupport::close();
-    return status;
+    return BenchSupport::exec(
+        argc, argv, "quorel-reportbench", "Runs every report of the Reports tab on a Quorel database and times it.",
+        [](QCommandLineParser &parser) {
+            parser.addOption({"report", "Only this catalogue index (may be repeated).", "index"});
+            parser.addOption({"export", "Each run also exports every row, as quorel-report --csv does."});
+        },
+        runBench);
 }

@@ -102,14 +102,7 @@ int runBench(int runs)
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QCommandLineParser parser;
-    BenchSupport::addOptions(parser, "Times the dispense tab's stock work on a Quorel database.");
-    parser.process(app);
-    QString error;
-    const int status = BenchSupport::open(parser, &error) ? runBench(BenchSupport::runs(parser)) : fail(error);
-    BenchSupport::close();
-    return status;
+    return BenchSupport::exec(argc, argv, "quorel-stockbench", "Times the dispense tab's stock work on a Quorel database.",
+                              [](QCommandLineParser &) {},
+                              [](const QCommandLineParser &parser) { return runBench(BenchSupport::runs(parser)); });
 }

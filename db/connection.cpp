@@ -2,6 +2,7 @@
 #include "dialect.h"
 
 #include <QSettings>
+#include <QSqlError>
 
 namespace Connection {
 
@@ -30,6 +31,22 @@ QSqlDatabase add(const Parameters &parameters)
     if (ok)
         db.setPort(port);
     return db;
+}
+
+bool open(const QSettings &store, QString *error)
+{
+    const Parameters parameters = read(store);
+    QSqlDatabase db = add(parameters);
+    if (!db.isValid()) {
+        *error = QString("Could not load the database driver %1").arg(parameters.driver);
+        return false;
+    }
+    if (!db.open()) {
+        *error = db.lastError().text();
+        return false;
+    }
+    Dialect::prepareSession(db);
+    return true;
 }
 
 } // namespace Connection

@@ -27,6 +27,11 @@ Parameters read(const QSettings &store);
 // own. Not opened; invalid when the driver cannot be loaded.
 QSqlDatabase add(const Parameters &parameters);
 
+// The default connection from the /Global/DB* keys of `store`, opened and its session prepared, for
+// the command-line tools. False with `error` set: "Could not load the database driver ..." or the
+// database's own text.
+bool open(const QSettings &store, QString *error);
+
 } // namespace Connection
 
 #endif

@@ -37,20 +37,6 @@ int failed(const QString &text)
     return 1;
 }
 
-bool openDatabase(QString *error)
-{
-    const Connection::Parameters p = Connection::read(*settings);
-    QSqlDatabase db = Connection::add(p);
-    if (!db.isValid()) {
-        *error = QString("Could not load the database driver %1").arg(p.driver);
-        return false;
-    }
-    if (db.open())
-        return true;
-    *error = db.lastError().text();
-    return false;
-}
-
 QStringList existingTables(const QSqlDatabase &db)
 {
     QStringList found;
@@ -156,7 +142,7 @@ int main(int argc, char **argv)
     std::unique_ptr<QSettings> effective(
         ConnectionOptions::effectiveSettings(parser, store, scratch.filePath("Quorel.conf")));
     settings = effective.get();
-    const int status = openDatabase(&error) ? run(options) : failed(error);
+    const int status = Connection::open(*settings, &error) ? run(options) : failed(error);
     settings = nullptr;
     return status;
 }

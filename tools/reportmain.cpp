@@ -109,23 +109,6 @@ int list()
     return 0;
 }
 
-// The connection as the program opens it, from the settings with the options over them.
-bool openDatabase(QString *error)
-{
-    const Connection::Parameters parameters = Connection::read(*settings);
-    QSqlDatabase db = Connection::add(parameters);
-    if (!db.isValid()) {
-        *error = QString("could not load the database driver %1").arg(parameters.driver);
-        return false;
-    }
-    if (!db.open()) {
-        *error = QString("could not open the database: %1").arg(db.lastError().text());
-        return false;
-    }
-    Dialect::prepareSession(db);
-    return true;
-}
-
 int runReport(const ReportTool::Request &request, ReportPrompter *prompter)
 {
     Admin admin(nullptr, "admin", Qt::Window);
@@ -156,7 +139,7 @@ int work(const QCommandLineParser &parser)
     Startup::installLanguage(*qApp);
     ReportPrompter prompter;
     Prompter::install(&prompter);
-    int status = openDatabase(&error) ? 0 : say(1, error);
+    int status = Connection::open(*settings, &error) ? 0 : say(1, "could not open the database: " + error);
     if (!status) {
         std::unique_ptr<Utility> helper(new Utility("Admin"));
         utils = helper.get();
