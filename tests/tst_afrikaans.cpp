@@ -106,19 +106,23 @@ QStringList englishAmong(const QStringList &texts)
     static const QList<QRegularExpression> translated = [] {
         QList<QRegularExpression> sources;
         for (const QString &name : catalogues)
-            for (const Message &m : readCatalogue(name))
-                if (m.translation != m.source)
-                    sources << QRegularExpression(
-                        QRegularExpression::anchoredPattern(
-                            QRegularExpression::escape(m.source).replace(QRegularExpression("\\\\%[1-9]"), "(.*)")),
-                        QRegularExpression::DotMatchesEverythingOption);
+            for (const Message &m : readCatalogue(name)) {
+                if (m.translation == m.source)
+                    continue;
+                QString pattern = QRegularExpression::escape(m.source);
+                pattern.replace(QRegularExpression("\\\\%[1-9]"), "(.*)");
+                sources << QRegularExpression(QRegularExpression::anchoredPattern(pattern),
+                                              QRegularExpression::DotMatchesEverythingOption);
+            }
         return sources;
     }();
     QStringList found;
     for (const QString &text : texts)
-        if (!text.isEmpty() && std::any_of(translated.cbegin(), translated.cend(),
-                                           [&](const QRegularExpression &source) { return source.match(text).hasMatch(); }))
-            found << text;
+        for (const QRegularExpression &source : translated)
+            if (!text.isEmpty() && source.match(text).hasMatch()) {
+                found << text;
+                break;
+            }
     return found;
 }
 
