@@ -1,7 +1,6 @@
 #include "pdfpages.h"
 
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 namespace {
@@ -24,14 +23,6 @@ QStringList text(const QString &pdf)
     if (!pages.isEmpty() && pages.last().trimmed().isEmpty())
         pages.removeLast(); // the text ends with a page break
     return pages;
-}
-
-QString info(const QString &pdf, const QString &key)
-{
-    const QString all = QString::fromUtf8(run("pdfinfo", {pdf}));
-    const QRegularExpression line("^" + QRegularExpression::escape(key) + ":\\s*(.*)$",
-                                  QRegularExpression::MultilineOption);
-    return line.match(all).captured(1).trimmed();
 }
 
 QImage image(const QString &pdf, int page, int dpi)

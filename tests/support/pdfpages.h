@@ -5,14 +5,12 @@
 #include <QString>
 #include <QStringList>
 
-// A printed PDF read back with poppler-utils (pdftotext, pdfinfo, pdftoppm), as a person would
-// read the paper: the text of each page, the document's properties, a page as a picture.
+// A printed PDF read back with poppler-utils (pdftotext, pdftoppm), as a person would
+// read the paper: the text of each page, and a page as a picture.
 namespace PdfPages {
 
 // The text of every page, in order; empty when the file is missing or unreadable.
 QStringList text(const QString &pdf);
-// A line of pdfinfo, such as "Title" or "Creator" (empty when absent).
-QString info(const QString &pdf, const QString &key);
 // Page `page` (from 1) at `dpi` dots per inch.
 QImage image(const QString &pdf, int page, int dpi = 50);
 
