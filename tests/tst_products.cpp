@@ -9,8 +9,6 @@
 
 #include <QApplication>
 #include <QDate>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QtTest>
 
 namespace {
@@ -27,22 +25,14 @@ struct Product {
 // Written with bound values, independently of the statements under test.
 bool insertProducts(const QString &table, const QList<Product> &products)
 {
-    const int columns = table == "Vaccination" ? 20 : 19;
-    QSqlQuery query;
-    query.prepare("INSERT INTO " + table + " (Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,"
-                  "Supplier,Tax1,Tax2,Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate"
-                  + QString(columns == 20 ? ",DaysToReminder" : "") + ") VALUES (" + QString("?,").repeated(columns - 1) + "?)");
-    for (const Product &p : products) {
-        const QVariantList values{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity, p.schedule, p.unit,
-                                  p.supplier, p.tax1, p.tax2, p.remarks, p.reorder, p.toQuantity, p.onOrder,
-                                  p.descriptionA, p.unitA, "2026-01-15", p.daysToReminder};
-        for (int i = 0; i < columns; ++i)
-            query.bindValue(i, values[i]);
-        if (!query.exec()) {
-            qWarning() << "insertProducts:" << query.lastError().text();
+    const bool days = table == "Vaccination";
+    for (const Product &p : products)
+        if (!TestSupport::insert(table, "Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,Supplier,Tax1,Tax2,"
+                                 "Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate" + QString(days ? ",DaysToReminder" : ""),
+                                 QVariantList{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity, p.schedule, p.unit,
+                                              p.supplier, p.tax1, p.tax2, p.remarks, p.reorder, p.toQuantity, p.onOrder,
+                                              p.descriptionA, p.unitA, "2026-01-15", p.daysToReminder}.mid(0, days ? 20 : 19)))
             return false;
-        }
-    }
     return true;
 }
 
