@@ -297,7 +297,8 @@ bool tooLong(const Form &form, const QString &text)
 QString tooLongWarning(const Form &form, const QString &text)
 {
     const QList<uint> points = withoutNul(text).toUcs4();
-    const QString opening = QString::fromUcs4(reinterpret_cast<const char32_t *>(points.constData()), qMin(40, int(points.size())));
+    const QString opening =
+        QString::fromUcs4(reinterpret_cast<const char32_t *>(points.constData()), qMin(40, int(points.size())));
     const QString size = form.width ? QString("It has %1 characters; the field takes at most %2.").arg(points.size()).arg(form.width)
                                     : QString("It takes %1 bytes; the field takes at most 65535.").arg(withoutNul(text).toUtf8().size());
     return QString("The text \"%1%2\" is too long. %3").arg(opening, points.size() > 40 ? "..." : "", size);
@@ -321,11 +322,12 @@ const QMap<QString, std::pair<bool, Form>> &numberForms()
 {
     static const QMap<QString, std::pair<bool, Form>> all{
         {"second tax rate", {false, practice(false, {"Tax2"}, "Tax2")}},
-        {"cost", {false, product("Goods", QString(), {"cost_tf", "level_tf", "toqty_tf", "onorder_tf"}, "Cost,ReOrder,ToQuantity,OnOrder", 0, 0)}},
+        {"cost", {false, product("Goods", QString(), {"cost_tf", "level_tf", "toqty_tf", "onorder_tf"},
+                                 "Cost,ReOrder,ToQuantity,OnOrder", 0, 0)}},
         {"number of days to the reminder", {true, product("Vaccination", QString(), {"dtr_tf"}, "DaysToReminder", 0, 0)}},
         {"commission", {false, user("lineEdit45", "Commission", 0)}},
         {"quantity", {false, {0, "SELECT Quantity FROM AutoProcContents", {"auto_qty_tf"}, [] { return TestSupport::makeAdmin(); },
-                              [](Admin *admin, const QString &) { answer(1); admin->newAutoProcContents(); return QString(); }, {}}}},
+                              [](Admin *a, const QString &) { answer(1); a->newAutoProcContents(); return QString(); }, {}}}},
     };
     return all;
 }
@@ -412,7 +414,8 @@ private slots:
         enter(form, typed);
 
         if (read.isEmpty() || (whole && read.toDouble() > 2147483647.0)) { // days no more than an integer column takes
-            QCOMPARE(warnings(), QStringList{QString(whole ? "The %1 \"%2\" is not a whole number." : "The %1 \"%2\" is not a number.").arg(field, typed)});
+            const QString refusal = whole ? "The %1 \"%2\" is not a whole number." : "The %1 \"%2\" is not a number.";
+            QCOMPARE(warnings(), QStringList{refusal.arg(field, typed)});
             QCOMPARE(stored(form.stored), before);
             return;
         }

@@ -26,13 +26,15 @@ struct Product {
 bool insertProducts(const QString &table, const QList<Product> &products)
 {
     const bool days = table == "Vaccination";
-    for (const Product &p : products)
-        if (!TestSupport::insert(table, "Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,Supplier,Tax1,Tax2,"
-                                 "Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate" + QString(days ? ",DaysToReminder" : ""),
-                                 QVariantList{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity, p.schedule, p.unit,
-                                              p.supplier, p.tax1, p.tax2, p.remarks, p.reorder, p.toQuantity, p.onOrder,
-                                              p.descriptionA, p.unitA, "2026-01-15", p.daysToReminder}.mid(0, days ? 20 : 19)))
+    const QString columns = "Code,Description,Active,Cost,MarkUp,Price,Quantity,Schedule,UnitOfMeasure,Supplier,Tax1,Tax2,"
+                            "Remarks,ReOrder,ToQuantity,OnOrder,Description_A,UnitOfMeasure_A,OrderDate";
+    for (const Product &p : products) {
+        const QVariantList values{p.code, p.description, p.active, p.cost, p.markup, p.price, p.quantity, p.schedule, p.unit,
+                                  p.supplier, p.tax1, p.tax2, p.remarks, p.reorder, p.toQuantity, p.onOrder,
+                                  p.descriptionA, p.unitA, "2026-01-15", p.daysToReminder};
+        if (!TestSupport::insert(table, columns + (days ? ",DaysToReminder" : ""), values.mid(0, days ? 20 : 19)))
             return false;
+    }
     return true;
 }
 
