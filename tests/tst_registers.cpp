@@ -3,22 +3,13 @@
 #include "testsupport.h"
 
 #include <QApplication>
-#include <QSqlQuery>
 #include <QtTest>
 
 using Table = QList<QStringList>;
+using TestSupport::insert;
 using TestSupport::rows;
 
 namespace {
-
-bool insert(const QString &table, const QString &columns, const QVariantList &values)
-{
-    QSqlQuery query;
-    query.prepare("INSERT INTO " + table + " (" + columns + ") VALUES (" + QStringList(values.size(), "?").join(',') + ")");
-    for (const QVariant &value : values)
-        query.addBindValue(value);
-    return query.exec();
-}
 
 // Each right is "Class:Description".
 bool addUser(const QString &name, const QString &code, const QStringList &rights = {})
@@ -332,19 +323,21 @@ private slots:
         QCOMPARE(contents(), Table({{"Spay 'bitch' \\ large", "Proc", "3", "1", "Y"}}));
     }
 
-    // An item fills the form and is changed by its line: of two alike, the highlighted one. A delete takes every item of
-    // that product in the procedure only. A new item is charged whatever the box shows.
+    // An item fills the form with its quantity as stored, and is changed by its line: of two alike, the highlighted one,
+    // though the list shows its quantity rounded. A delete takes every item of that product in the procedure only. A new
+    // item is charged whatever the box shows.
     void editItems()
     {
-        QVERIFY(addProcedure("Other", {"Goods|1|2|Y"}) && addProcedure("Spay", {"Goods|1|2|N", "Goods|1|4|N", "Goods|1|4|N"}));
+        QVERIFY(addProcedure("Other", {"Goods|1|2|Y"}) && addProcedure("Spay", {"Goods|1|2|N", "Goods|1|4.125|N", "Goods|1|4.125|N"}));
         Admin *admin = TestSupport::makeAdmin();
         Ui::Admin &ui = admin->ui;
         ui.proc_list->setCurrentRow(1);
         ui.checkBox8->setChecked(true);
         ui.auto_list->setCurrentItem(ui.auto_list->topLevelItem(2));
+        QCOMPARE(ui.auto_list->topLevelItem(2)->text(1) + " " + ui.auto_qty_tf->text(), QString("4.13 4.125"));
         admin->autoCategorySelected("Medication");
         confirmed(admin, &Admin::updateAutoProcContents);
-        QCOMPARE(contents().mid(1), Table({{"Spay", "Goods", "1", "2", "N"}, {"Spay", "Goods", "1", "4", "N"}, {"Spay", "Medication", "7", "4", "N"}}));
+        QCOMPARE(contents().mid(1), Table({{"Spay", "Goods", "1", "2", "N"}, {"Spay", "Goods", "1", "4.125", "N"}, {"Spay", "Medication", "7", "4.125", "N"}}));
         ui.auto_list->setCurrentItem(ui.auto_list->topLevelItem(0));
         confirmed(admin, &Admin::deleteAutoProcContents);
         ui.auto_desc_combo->setCurrentIndex(ui.auto_desc_combo->findText("Cotton 'wool' \\ roll"));
@@ -353,8 +346,8 @@ private slots:
 
         confirmed(admin, &Admin::newAutoProcContents);
 
-        QCOMPARE(contents(), Table({{"Other", "Goods", "1", "2", "Y"}, {"Spay", "Medication", "7", "4", "N"}, {"Spay", "Goods", "2", "3", "Y"}}));
-        QCOMPARE(listed(ui.auto_list), Table({{"Medication", "4.00", "Pill", "7", "1.25", "0.00", "N"},
+        QCOMPARE(contents(), Table({{"Other", "Goods", "1", "2", "Y"}, {"Spay", "Medication", "7", "4.125", "N"}, {"Spay", "Goods", "2", "3", "Y"}}));
+        QCOMPARE(listed(ui.auto_list), Table({{"Medication", "4.13", "Pill", "7", "1.25", "0.00", "N"},
                                               {"Goods", "3.00", "Cotton 'wool' \\ roll", "2", "0.50", "1.50", "Y"}}));
     }
 };
