@@ -28,13 +28,13 @@ const int PeriodDays = 30;
 // columns of a statement.
 QString nameColumns()
 {
-    return "Surname," + Dialect::concat({"'  '", "Title", "' '", "Initials"});
+    return "Surname," + ReportFrame::titleAndInitials("Owner");
 }
 
 // The client's name as every report shows it, from the two name columns starting at `column`.
 QString clientName(const QSqlQuery &query, int column)
 {
-    return Utility::rot13(query.value(column).toString()) + query.value(column + 1).toString();
+    return ReportFrame::client(query.value(column), query.value(column + 1));
 }
 
 // The fields `first` to `last` of the query's row, as text.
