@@ -42,8 +42,10 @@ public:
     };
     ReportState report;
     // Writes the list's column titles and `rows` as Export does; false when the file could not be
-    // written. Export and the headless tool both write through it.
+    // written. Export writes the highlighted rows through it.
     bool exportRows(const QString &fileName, const QList<const QTreeWidgetItem *> &rows);
+    // The same with every row of the list, highlighted or not (the headless tool's --csv).
+    bool exportRows(const QString &fileName);
 
 public slots:
     virtual void polish();

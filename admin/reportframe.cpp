@@ -15,10 +15,6 @@
 #include <QStatusBar>
 #include <cmath>
 
-namespace {
-const int ReportColumns = 11;
-}
-
 ReportFrame::ReportFrame(Admin *owner)
     : admin(owner), list(owner->ui.report_list)
 {
@@ -54,7 +50,7 @@ void ReportFrame::resetColumns(QTreeWidget *list)
     list->header()->setMinimumSectionSize(0);
     list->header()->setStretchLastSection(false);
     QTreeWidgetItem *header = list->headerItem();
-    for (int column = 0; column < ReportColumns; ++column) {
+    for (int column = 0; column < Columns; ++column) {
         list->setColumnWidth(column, 0);
         header->setText(column, QString());
         header->setData(column, Qt::TextAlignmentRole, QVariant());
@@ -74,7 +70,7 @@ void ReportFrame::setColumns(const QList<Column> &columns)
 {
     reset();
     QTreeWidgetItem *header = list->headerItem();
-    for (int column = 0; column < columns.size() && column < ReportColumns; ++column) {
+    for (int column = 0; column < columns.size() && column < Columns; ++column) {
         const Column &c = columns.at(column);
         header->setText(column, c.title);
         list->setColumnWidth(column, c.width);
@@ -87,7 +83,7 @@ void ReportFrame::setColumns(const QList<Column> &columns)
 ZrListItem *ReportFrame::addRow(const QStringList &cells)
 {
     auto *item = new ZrListItem;
-    for (int column = 0; column < cells.size() && column < ReportColumns; ++column) {
+    for (int column = 0; column < cells.size() && column < Columns; ++column) {
         item->setText(column, cells.at(column));
         if (rightAligned.value(column))
             item->setTextAlignment(column, Qt::AlignRight);

@@ -24,6 +24,9 @@ class ZrListItem;
 class ReportFrame
 {
 public:
+    // The list's columns, made once with the window: a report shows at most these.
+    static constexpr int Columns = 11;
+
     struct Column {
         QString title;
         int width = 0;

@@ -5,6 +5,7 @@
 #include "globals.h"
 #include "plot.h"
 #include "prompter.h"
+#include "reportframe.h"
 #include "tabsupport.h"
 #include "utility.h"
 #include "zrlistitem.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-const int ReportColumns = 11;
 const int ChartReports = 10; // the performance reports and the new clients history
 
 // The wait cursor for the life of a block.
@@ -63,16 +63,10 @@ QList<Column> titledColumns(const QTreeWidget *list)
 {
     QList<Column> columns;
     const QTreeWidgetItem *header = list->headerItem();
-    for (int c = 0; c < ReportColumns; ++c)
+    for (int c = 0; c < ReportFrame::Columns; ++c)
         if (!header->text(c).isEmpty())
             columns << Column{c, header->text(c), list->columnWidth(c), alignmentWord(header->textAlignment(c))};
     return columns;
-}
-
-// A cell as the report wrote it: the list shows line breaks as blanks, the output keeps them.
-QString cellText(const QTreeWidgetItem *item, int column)
-{
-    return item->QTreeWidgetItem::data(column, Qt::DisplayRole).toString();
 }
 
 bool isMarked(const QTreeWidgetItem *item)
@@ -81,12 +75,12 @@ bool isMarked(const QTreeWidgetItem *item)
     return row && row->altVisual() == 2;
 }
 
-// The highlighted rows, in list order.
-QList<const QTreeWidgetItem *> highlightedRows(const QTreeWidget *list)
+// The rows, or only the highlighted ones, in list order.
+QList<const QTreeWidgetItem *> listRows(const QTreeWidget *list, bool highlightedOnly)
 {
     QList<const QTreeWidgetItem *> rows;
     for (int i = 0; i < list->topLevelItemCount(); ++i)
-        if (list->topLevelItem(i)->isSelected())
+        if (!highlightedOnly || list->topLevelItem(i)->isSelected())
             rows << list->topLevelItem(i);
     return rows;
 }
@@ -118,7 +112,7 @@ QString tableRow(const QTreeWidgetItem *item, const QList<Column> &columns)
 {
     QString html = isMarked(item) ? "<tr BGCOLOR=\"#FFCCCC\">" : "<tr>";
     for (const Column &c : columns)
-        html += "<td align=" + c.align + ">" + cellText(item, c.index).replace('\n', "<br>") + "</td>";
+        html += "<td align=" + c.align + ">" + TabSupport::cell(item, c.index).replace('\n', "<br>") + "</td>";
     return html + "</tr>";
 }
 
@@ -138,12 +132,12 @@ QByteArray csvHeader(const QList<Column> &columns)
     return (line + '\n').toUtf8();
 }
 
-// The row's cells up to the first column without a title.
-QByteArray csvRow(const QTreeWidgetItem *item, const QTreeWidget *list)
+// The row's first `count` cells.
+QByteArray csvRow(const QTreeWidgetItem *item, int count)
 {
     QString line;
-    for (int c = 0; c < ReportColumns && !list->headerItem()->text(c).isEmpty(); ++c)
-        line += (c == 0 ? "" : ",") + csvCell(cellText(item, c));
+    for (int c = 0; c < count; ++c)
+        line += (c == 0 ? "" : ",") + csvCell(TabSupport::cell(item, c));
     return (line + '\n').toUtf8();
 }
 
@@ -158,8 +152,12 @@ bool writeCsv(const QString &name, const QTreeWidget *list, const QList<const QT
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(csvHeader(titledColumns(list)));
+    // A row's cells go up to the first column without a title.
+    int count = 0;
+    while (count < ReportFrame::Columns && !list->headerItem()->text(count).isEmpty())
+        ++count;
     for (const QTreeWidgetItem *row : rows)
-        file.write(csvRow(row, list));
+        file.write(csvRow(row, count));
     return file.commit();
 }
 
@@ -208,9 +206,9 @@ void fillChart(Plot *plot, const QList<const QTreeWidgetItem *> &rows)
     QList<double> values;
     values.reserve(rows.size() * Plot::Points);
     for (const QTreeWidgetItem *row : rows) {
-        legends << cellText(row, 0);
+        legends << TabSupport::cell(row, 0);
         for (int c = 1; c <= Plot::Points; ++c)
-            values << Utility::strNum(cellText(row, c), nullptr);
+            values << Utility::strNum(TabSupport::cell(row, c), nullptr);
     }
     plot->setLegends(legends);
     plot->setValues(values);
@@ -269,7 +267,7 @@ void Admin::tableViewAction(void *action)
 void Admin::exportQuery()
 {
     const QString caption = tr("Export Results");
-    const QList<const QTreeWidgetItem *> rows = highlightedRows(ui.report_list);
+    const QList<const QTreeWidgetItem *> rows = listRows(ui.report_list, true);
     if (rows.isEmpty()) {
         Prompter::warn(this, caption, tr("You must highlight entries to export"));
         return;
@@ -291,6 +289,11 @@ bool Admin::exportRows(const QString &fileName, const QList<const QTreeWidgetIte
     return writeCsv(fileName, ui.report_list, rows);
 }
 
+bool Admin::exportRows(const QString &fileName)
+{
+    return exportRows(fileName, listRows(ui.report_list, false));
+}
+
 void Admin::graphQuery()
 {
     const QString caption = tr("Graph Results");
@@ -307,7 +310,7 @@ void Admin::graphQuery()
         Waiting waiting;
         plot->setTitle("<b>Quorel<br>" + ui.type_combo->currentText() + report.subtitle + "</B>");
         setChartStart(plot, ui.report_list->headerItem()->text(1));
-        fillChart(plot, highlightedRows(ui.report_list));
+        fillChart(plot, listRows(ui.report_list, true));
     }
     Prompter::current()->exec(plot);
     delete plot;

@@ -91,14 +91,6 @@ void printPractice()
                 BenchSupport::number("SELECT COUNT(*) FROM Goods"));
 }
 
-// Every row of the list, as Export writes the highlighted ones.
-void exportAll(Admin *admin, const QString &file)
-{
-    QList<const QTreeWidgetItem *> rows;
-    for (int i = 0; i < admin->ui.report_list->topLevelItemCount(); ++i)
-        rows << admin->ui.report_list->topLevelItem(i);
-    admin->exportRows(file, rows);
-}
 
 int runBench(const QCommandLineParser &parser)
 {
@@ -119,7 +111,7 @@ int runBench(const QCommandLineParser &parser)
             admin.ui.type_combo->itemText(index), runs, [&] { prepare(a, &prompter, index); }, [a, &csv] {
                 a->processQuery();
                 if (!csv.isEmpty())
-                    exportAll(a, csv);
+                    a->exportRows(csv);
             });
         const int rows = admin.ui.report_list->topLevelItemCount();
         const QString statements = statementsOf(a, &prompter, index);

@@ -3,6 +3,7 @@
 #include "admin.h"
 #include "plot.h"
 #include "reportprompter.h"
+#include "zrrichtext.h"
 
 #include <QDialog>
 #include <QDir>
@@ -43,14 +44,14 @@ QString nameOf(int index)
 
 Outcome checkAnswers(const Request &request)
 {
-    const QString name = nameOf(request.index);
+    // The name only for a refusal: reading the catalogue builds the window's form.
     if (isPerformance(request.index) && request.mode != "daily" && request.mode != "monthly")
-        return refused(QString("%1 asks for a mode: give --mode daily or --mode monthly").arg(name));
+        return refused(QString("%1 asks for a mode: give --mode daily or --mode monthly").arg(nameOf(request.index)));
     if (request.index == StockLevels && request.category.trimmed().isEmpty())
         return refused(QString("%1 asks for a category: give --category (Goods, Hospital, Lab, Medication, "
-                               "Injection, Vaccination or another product table)").arg(name));
+                               "Injection, Vaccination or another product table)").arg(nameOf(request.index)));
     if (request.index == DrugLevels && (request.schedule < 0 || request.schedule > 7))
-        return refused(QString("%1 asks for the lowest schedule: give --schedule 0 to 7").arg(name));
+        return refused(QString("%1 asks for the lowest schedule: give --schedule 0 to 7").arg(nameOf(request.index)));
     return {};
 }
 
@@ -144,10 +145,7 @@ void highlightAll(Admin *admin)
 Outcome writeCsv(Admin *admin, ReportPrompter *prompter, const QString &target)
 {
     return writeThrough(target, "csv", prompter, [&](const QString &file) {
-        QList<const QTreeWidgetItem *> rows;
-        for (int i = 0; i < admin->ui.report_list->topLevelItemCount(); ++i)
-            rows << admin->ui.report_list->topLevelItem(i);
-        if (!admin->exportRows(file, rows))
+        if (!admin->exportRows(file))
             prompter->said << ReportPrompter::Said{Prompter::Warning, QString(), QString("cannot write %1").arg(target)};
     });
 }
@@ -157,7 +155,7 @@ Outcome writePdf(Admin *admin, ReportPrompter *prompter, const QString &target)
     return writeThrough(target, "pdf", prompter, [&](const QString &file) {
         admin->printQuery();
         prompter->pdfFileName = file;
-        admin->tableViewAction(reinterpret_cast<void *>(quintptr(12)));
+        admin->reportViewer()->printAll();
         prompter->pdfFileName.clear();
     });
 }
