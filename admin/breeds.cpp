@@ -2,6 +2,7 @@
 // database refuses is shown and undone, so nothing half-written stays in the table.
 #include "admin.h"
 
+#include "columns.h"
 #include "globals.h"
 #include "prompter.h"
 #include "session.h"
@@ -68,7 +69,7 @@ public:
             return row < rowCount() && setData(this->index(row, column), value, role);
         // The model binds its values instead of escaping them: the NUL that no engine keeps is
         // dropped here, as escapeSQL drops it from every other text.
-        const QString text = value.toString().remove(QChar(0));
+        const QString text = Columns::stored(value.toString());
         return TabSupport::textsFit(window, Admin::tr("Breeds"), tableName(), {{record().fieldName(column), text}})
             && QSqlTableModel::setData(index, value.isNull() ? value : QVariant(text), role) && afterEdit();
     }

@@ -20,6 +20,12 @@ namespace {
 // transaction: the statements after it would run outside of it, and the change be half made.
 bool transactionOpen = false;
 
+void reopenOutsideTransaction()
+{
+    if (!transactionOpen)
+        Session::ensureOpen();
+}
+
 // The typed number, or false when it is none. The integer columns take 32 bits on every server.
 bool typedValue(const QString &typed, bool whole, double *value)
 {
@@ -46,8 +52,7 @@ namespace TabSupport {
 
 bool run(QSqlQuery &query, const QString &sql)
 {
-    if (!transactionOpen)
-        Session::ensureOpen();
+    reopenOutsideTransaction();
     return query.exec(sql) || !utils->showDBError(query);
 }
 
@@ -124,8 +129,7 @@ QString formatted(const QString &pattern, const QStringList &values)
 
 bool textsFit(QWidget *parent, const QString &caption, const QString &table, const QList<ColumnText> &texts)
 {
-    if (!transactionOpen)
-        Session::ensureOpen();
+    reopenOutsideTransaction();
     for (const ColumnText &text : texts) {
         Columns::Width width;
         QSqlError error;

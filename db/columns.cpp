@@ -1,10 +1,10 @@
 #include "columns.h"
 
+#include "dialect.h"
 #include "session.h"
 
 #include <QHash>
 #include <QRegularExpression>
-#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QVariant>
 
@@ -55,10 +55,10 @@ bool serverWidths(QSqlQuery &query, const QString &table, bool mysql, Table *wid
 
 bool readWidths(QSqlQuery &query, const QString &table, Table *widths)
 {
-    const QString driver = QSqlDatabase::database(QLatin1String(QSqlDatabase::defaultConnection), false).driverName();
-    if (driver == QLatin1String("QSQLITE"))
+    const Dialect::Engine engine = Dialect::connectedEngine();
+    if (engine == Dialect::SQLite)
         return sqliteWidths(query, table, widths);
-    return serverWidths(query, table, driver.startsWith(QLatin1String("QMYSQL")), widths);
+    return serverWidths(query, table, engine == Dialect::MySQL, widths);
 }
 } // namespace
 
