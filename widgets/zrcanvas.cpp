@@ -22,7 +22,8 @@ void ZrCanvas::drawContents(QPainter *painter)
 
 void ZrCanvas::clearBuffer()
 {
-    pixmap = QPixmap(size());
+    if (pixmap.size() != size()) // the fill below covers every pixel of one of the same size
+        pixmap = QPixmap(size());
     if (pixmap.isNull())
         return;
     pixmap.fill(palette().color(backgroundRole()));
@@ -48,7 +49,6 @@ void ZrCanvas::paintEvent(QPaintEvent *event)
 
 void ZrCanvas::resizeEvent(QResizeEvent *event)
 {
-    clearBuffer();
     QFrame::resizeEvent(event);
     clearBuffer();
 }
